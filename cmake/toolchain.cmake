@@ -1,0 +1,30 @@
+# Compiler and linker settings that every target shares.
+
+find_program(MOLD mold)
+if(MOLD)
+  add_link_options(-fuse-ld=mold)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+endif()
+
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # Debug lines only: back traces stay readable and the objects stay small.
+  add_compile_options($<$<NOT:$<CONFIG:Debug>>:-g1> -fpch-preprocess)
+endif()
+
+if(KURVO_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# Warnings are errors in our own code.
+add_library(kurvo_warnings INTERFACE)
+if(MSVC)
+  target_compile_options(kurvo_warnings INTERFACE /W4 /WX /utf-8)
+else()
+  target_compile_options(kurvo_warnings INTERFACE -Wall -Wextra -Wshadow -Wconversion -Werror)
+endif()

@@ -1,0 +1,357 @@
+#include "platform/rtf_reader.h"
+
+#include "platform/rtf_code_pages.h"
+#include "platform/rtf_words.h"
+
+#include <algorithm>
+
+namespace rtf {
+
+namespace {
+
+constexpr std::size_t longest_word = 32;
+constexpr int largest_number = 100'000'000;
+constexpr std::size_t most_fonts = 500;  // more would only come from broken input, and slow the document down
+
+bool is_latin(char16_t unit) {
+    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
+}
+
+bool is_digit(char16_t unit) {
+    return unit >= u'0' && unit <= u'9';
+}
+
+int hex_value(char16_t unit) {
+    if (is_digit(unit)) return unit - u'0';
+    if (unit >= u'a' && unit <= u'f') return unit - u'a' + 10;
+    if (unit >= u'A' && unit <= u'F') return unit - u'A' + 10;
+    return -1;
+}
+
+// Letters that stand for themselves in a run. The others are codes of the input or mean something to QTextDocument.
+bool is_ordinary(char16_t unit) {
+    if (unit < 0x20 || unit == u'\\' || unit == u'{' || unit == u'}') return false;
+    return unit < 0x2029 || (unit != 0x2029 && unit != 0xFDD0 && unit != 0xFDD1 && unit != 0xFFFC);
+}
+
+}  // namespace
+
+Reader::Reader(QStringView input, Sink& sink) : input_(input), sink_(sink), letters_(letters_of_code_page(1254)) {}
+
+void Reader::read() {
+    while (at_ < input_.size() && !ended_) {
+        const char16_t unit = input_[at_].unicode();
+        if (unit == u'\\') {
+            ++at_;
+            control();
+        } else if (unit == u'{') {
+            ++at_;
+            open_group();
+        } else if (unit == u'}') {
+            ++at_;
+            close_group();
+        } else if (skipped_depth_ > 0) {
+            ++at_;
+        } else {
+            literal_run();
+        }
+    }
+    flush();
+    sink_.document_end(now_.alignment);
+}
+
+QString Reader::font_name(int font) const {
+    const auto found = fonts_.find(font);
+    return found == fonts_.end() ? QString() : found->second.name;
+}
+
+std::optional<QRgb> Reader::color(int index) const {
+    if (index < 0 || static_cast<std::size_t>(index) >= colors_.size()) return std::nullopt;
+    return colors_[static_cast<std::size_t>(index)];
+}
+
+void Reader::open_group() {
+    fallback_left_ = 0;
+    if (skipped_depth_ > 0)
+        ++skipped_depth_;
+    else
+        groups_.push_back(now_);
+}
+
+void Reader::close_group() {
+    fallback_left_ = 0;
+    if (skipped_depth_ > 1) {
+        --skipped_depth_;
+        return;
+    }
+    skipped_depth_ = 0;
+    // The outermost group is the document; its last paragraph keeps the alignment that it had.
+    ended_ = groups_.size() <= 1;
+    if (ended_) return;
+    now_ = groups_.back();
+    groups_.pop_back();
+    select_letters();
+}
+
+// The outermost group holds the text itself and is never skipped.
+void Reader::skip_group() {
+    if (groups_.size() > 1) skipped_depth_ = 1;
+}
+
+void Reader::control() {
+    if (at_ == input_.size()) return;
+    if (is_latin(input_[at_].unicode()))
+        control_word();
+    else
+        control_symbol(input_[at_++].unicode());
+}
+
+void Reader::control_symbol(char16_t symbol) {
+    if (skipped_depth_ > 0) return;
+    switch (symbol) {
+        case u'\'':
+            return hex_letter();
+        case u'*':
+            return skip_group();  // a destination that may be left out
+        case u'~':
+            return letter(QChar::Nbsp);
+        case u'-':
+            return letter(QChar::SoftHyphen);
+        case u'_':
+            return letter(QChar(0x2011));
+        case u'\t':
+            return letter(u'\t');
+        case u'\r':
+            if (at_ < input_.size() && input_[at_] == u'\n') ++at_;
+            return end_paragraph();
+        case u'\n':
+            return end_paragraph();
+        case u'\\':
+        case u'{':
+        case u'}':
+            return letter(QChar(symbol));
+        default:
+            return;
+    }
+}
+
+void Reader::control_word() {
+    char name[longest_word];
+    std::size_t length = 0;
+    for (; at_ < input_.size() && is_latin(input_[at_].unicode()); ++at_)
+        if (length < longest_word) name[length++] = input_[at_].toLatin1();
+
+    const bool negative = at_ + 1 < input_.size() && input_[at_] == u'-' && is_digit(input_[at_ + 1].unicode());
+    if (negative) ++at_;
+    Word word{std::string_view(name, length)};
+    for (; at_ < input_.size() && is_digit(input_[at_].unicode()); ++at_) {
+        word.has_number = true;
+        word.number = std::min(word.number * 10 + (input_[at_].unicode() - u'0'), largest_number);
+    }
+    if (negative) word.number = -word.number;
+    if (at_ < input_.size() && input_[at_] == u' ') ++at_;
+    apply(word);
+}
+
+void Reader::apply(const Word& word) {
+    const KnownWord& known = find_word(word.name);
+    if (known.action == Action::binary) return skip_binary(word.number);
+    if (skipped_depth_ > 0) return;
+    if (known.action == Action::letter) return letter(QChar(static_cast<char16_t>(known.argument)));
+    fallback_left_ = 0;
+    if (apply_style(known.action, word)) return;
+    switch (known.action) {
+        case Action::paragraph:
+            return end_paragraph();
+        case Action::unicode:
+            return unicode_letter(word.number);
+        case Action::fallback_length:
+            now_.fallback_length = std::clamp(word.number, 0, 255);
+            return;
+        case Action::plain_paragraph:
+            now_.alignment = Alignment::left;
+            return;
+        case Action::align:
+            now_.alignment = static_cast<Alignment>(known.argument);
+            return;
+        case Action::skipped_destination:
+            return skip_group();
+        case Action::document_code_page:
+            code_page_ = word.number;
+            return select_letters();
+        case Action::fixed_code_page:
+            code_page_ = known.argument;
+            return select_letters();
+        default:
+            return apply_table(known.action, word);
+    }
+}
+
+// False when the word is none of a run's looks.
+bool Reader::apply_style(Action action, const Word& word) {
+    Style& style = now_.style;
+    switch (action) {
+        case Action::bold:
+            style.bold = word.on();
+            return true;
+        case Action::italic:
+            style.italic = word.on();
+            return true;
+        case Action::underline:
+            style.underline = word.on();
+            return true;
+        case Action::underline_end:
+            style.underline = false;
+            return true;
+        case Action::strike:
+            style.strike = word.on();
+            return true;
+        case Action::hidden:
+            now_.hidden = word.on();
+            return true;
+        case Action::font_size:
+            style.half_points = std::clamp(word.number, 0, 3276);
+            return true;
+        case Action::color:
+            style.color = std::max(word.number, 0);
+            return true;
+        case Action::font:
+            select_font(word.number);
+            return true;
+        case Action::plain_style:
+            style = Style{};
+            now_.hidden = false;
+            select_font(default_font_);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void Reader::apply_table(Action action, const Word& word) {
+    const auto part = [&](int shift) {
+        const auto value = static_cast<QRgb>(std::clamp(word.number, 0, 255)) << shift;
+        table_color_ = (table_color_.value_or(qRgb(0, 0, 0)) & ~(QRgb{0xFF} << shift)) | value;
+    };
+    switch (action) {
+        case Action::default_font:
+            default_font_ = word.number;
+            return select_font(word.number);
+        case Action::font_charset:
+            if (now_.destination == Destination::fonts && table_font_ >= 0) fonts_[table_font_].charset = word.number;
+            return;
+        case Action::font_table:
+            now_.destination = Destination::fonts;
+            return;
+        case Action::color_table:
+            now_.destination = Destination::colors;
+            return;
+        case Action::red:
+            return part(16);
+        case Action::green:
+            return part(8);
+        case Action::blue:
+            return part(0);
+        default:
+            return;
+    }
+}
+
+// In the font table a font's number begins its entry.
+void Reader::select_font(int font) {
+    if (now_.destination == Destination::fonts) {
+        const bool taken = fonts_.size() < most_fonts || fonts_.contains(font);
+        table_font_ = taken ? font : -1;
+        if (taken) fonts_[font] = Font{};
+        return;
+    }
+    now_.style.font = font;
+    select_letters();
+}
+
+void Reader::select_letters() {
+    const auto font = fonts_.find(now_.style.font);
+    const int charset = font == fonts_.end() ? 0 : font->second.charset;
+    letters_ = letters_of_code_page(code_page_of_charset(charset, code_page_));
+}
+
+void Reader::skip_binary(int size) {
+    at_ += std::clamp<qsizetype>(size, 0, input_.size() - at_);
+}
+
+void Reader::hex_letter() {
+    if (at_ + 2 > input_.size()) return;
+    const int high = hex_value(input_[at_].unicode());
+    const int low = hex_value(input_[at_ + 1].unicode());
+    if (high < 0 || low < 0) return;
+    at_ += 2;
+    letter(letters_[high * 16 + low]);
+}
+
+void Reader::unicode_letter(int number) {
+    const auto code = static_cast<char32_t>(number < 0 ? number + 0x10000 : number);
+    if (code <= 0xFFFF)
+        letter(QChar(static_cast<char16_t>(code)));
+    else if (code <= QChar::LastValidCodePoint)
+        for (const char16_t unit : QChar::fromUcs4(code)) letter(QChar(unit));
+    else
+        letter(QChar::ReplacementCharacter);
+    fallback_left_ = now_.fallback_length;
+}
+
+void Reader::literal_run() {
+    const qsizetype begin = at_;
+    if (fallback_left_ == 0 && now_.destination == Destination::body)
+        while (at_ < input_.size() && is_ordinary(input_[at_].unicode())) ++at_;
+    if (at_ > begin) {
+        if (!now_.hidden) append(input_.mid(begin, at_ - begin));
+    } else if (input_[at_] == QChar::ParagraphSeparator) {
+        ++at_;
+        end_paragraph();
+    } else {
+        letter(input_[at_++]);
+    }
+}
+
+void Reader::letter(QChar letter) {
+    const char16_t unit = letter.unicode();
+    if (unit != u'\t' && unit < 0x20) return;  // the input's own line ends
+    if (fallback_left_ > 0) {
+        --fallback_left_;
+        return;
+    }
+    if (now_.destination != Destination::body) return table_letter(letter);
+    const bool own_sign = unit == u'\t' || unit == u'\\' || unit == u'{' || unit == u'}';
+    if (!now_.hidden && (own_sign || is_ordinary(unit))) append(QStringView(&letter, 1));
+}
+
+void Reader::table_letter(QChar letter) {
+    if (now_.destination == Destination::fonts) {
+        if (letter == u';')
+            table_font_ = -1;
+        else if (table_font_ >= 0)
+            fonts_[table_font_].name += letter;
+    } else if (letter == u';') {
+        colors_.push_back(table_color_);
+        table_color_.reset();
+    }
+}
+
+void Reader::append(QStringView letters) {
+    if (now_.style != run_style_) flush();
+    run_style_ = now_.style;
+    run_ += letters;
+}
+
+void Reader::end_paragraph() {
+    if (now_.destination != Destination::body || now_.hidden) return;
+    flush();
+    sink_.paragraph_end(now_.alignment);
+}
+
+void Reader::flush() {
+    if (!run_.isEmpty()) sink_.run(run_, run_style_, *this);
+    run_.resize(0);
+}
+
+}  // namespace rtf

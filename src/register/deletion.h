@@ -1,0 +1,33 @@
+// A student is removed with all rows of the term.
+#pragma once
+
+#include "forms/kurvo_yeni.h"
+#include "register/main_screen.h"
+#include "session/context.h"
+
+#include <QObject>
+
+#include <functional>
+
+class RecordForm;
+
+class Deletion : public QObject {
+    Q_OBJECT
+
+public:
+    // `remove_remote` takes the student of the number out of the remote directory.
+    Deletion(KurvoYeni& form, SessionContext& session, RecordForm& record, MainScreen main,
+             std::function<void(std::int64_t)> remove_remote);
+
+private:
+    void CommandSIL_Click();
+    void remove_photo();
+    void remove_rows(std::string_view table, std::string_view index, std::int64_t student);
+    void remove_student();
+
+    KurvoYeni& form_;
+    SessionContext& session_;
+    RecordForm& record_;
+    MainScreen main_;
+    std::function<void(std::int64_t)> remove_remote_;
+};

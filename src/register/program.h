@@ -1,0 +1,49 @@
+// The program in one piece: the main form, the session and the handlers of its panels.
+#pragma once
+
+#include "collections/collection_screen.h"
+#include "collections/posting.h"
+#include "collections/statement.h"
+#include "forms/kurvo.h"
+#include "register/name_search.h"
+#include "register/record_window.h"
+#include "register/student_card.h"
+#include "register/student_list.h"
+#include "session/context.h"
+#include "session/institution_flag.h"
+#include "session/start_up.h"
+#include "session/terms.h"
+
+// Needs a QApplication. One at a time: it stands for the workstation's session.
+class Program : public QObject {
+    Q_OBJECT
+
+public:
+    Program();
+    ~Program() override;
+
+    Kurvo& form() { return kurvo_; }
+    SessionContext& session() { return session_; }
+    KurvoYeni* record_form() const { return record_window_.form(); }  // nullptr while it is not open
+
+    // Takes what the launcher handed over and shows the filled form. False when the session has ended already
+    // because the data belong to another version. Throws with a Turkish text that names the file.
+    bool start();
+
+private:
+    CardFollowers followers();
+    void end();
+
+    SessionContext session_;
+    Kurvo kurvo_;
+    Terms terms_;
+    InstitutionFlag institution_flag_;
+    Statement statement_;
+    StudentCard card_;
+    StudentList list_;
+    NameSearch search_;
+    RecordWindow record_window_;
+    CollectionScreen collections_;
+    Posting posting_;
+    StartUp start_up_;
+};

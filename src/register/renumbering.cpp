@@ -1,0 +1,166 @@
+#include "register/renumbering.h"
+
+#include "platform/numbers.h"
+#include "platform/prompt.h"
+#include "platform/slots.h"
+#include "platform/wait_cursor.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct IndexedTable {
+    const char* table;
+    const char* index;
+};
+
+constexpr IndexedTable tables_in_order[] = {{"Odeme", "OVX"},      {"Devam", "OTDX"},   {"Dmazeret", "OTX"},
+                                            {"Etud", "OTSX"},      {"EtudDevam", "OTDX"}, {"Emazeret", "OTX"},
+                                            {"Tahsilat", "OVTX"}};
+
+// The number that a text holds and nothing else; 0 where it is no student number.
+std::int64_t student_number(const QString& text) {
+    constexpr qsizetype most_digits = 15;  // what a number field keeps exactly
+    const QString digits = text.trimmed();
+    const bool valid = digits.size() <= most_digits && std::ranges::all_of(digits, [](QChar letter) {
+                           return letter >= u'0' && letter <= u'9';
+                       });
+    return valid ? digits.toLongLong() : 0;
+}
+
+// Leaves the cursor on the student's first row.
+bool find_first(store::Recordset& rows, std::int64_t student) {
+    bool found = false;
+    store::scan_prefix(rows, {student}, [&] {
+        found = true;
+        return false;
+    });
+    return found;
+}
+
+// The text with the new number in place of the old one that it begins with; null where it does not.
+QString with_number(const QString& text, std::int64_t from, std::int64_t to) {
+    const qsizetype blank = text.indexOf(u' ');
+    if (blank < 0 || numbers::val(text.left(blank)) != static_cast<double>(from)) return {};
+    return QString::number(to) + text.mid(blank);
+}
+
+}  // namespace
+
+Renumbering::Renumbering(KurvoYeni& form, SessionContext& session, MainScreen main)
+    : form_(form), session_(session), main_(main) {
+    on(form_.CommandNODGS, &QPushButton::clicked, this, [this] { CommandNODGS_Click(); });
+    on(form_.CommandNOVAZGEC, &QPushButton::clicked, this, [this] { CommandNOVAZGEC_Click(); });
+    on(form_.CommandNODEGISTIR, &QPushButton::clicked, this, [this] { CommandNODEGISTIR_Click(); });
+}
+
+// Only what was enabled is enabled again behind the panel: who may not delete may not do so afterwards either.
+void Renumbering::CommandNODGS_Click() {
+    form_.FrameNODGS->show();
+    disabled_.clear();
+    for (QWidget* button : {form_.CommandNODGS, form_.CommandAL, form_.CommandTEMIZLE, form_.CommandKAYDET,
+                            form_.CommandSIL, form_.CommandSOZLESME, form_.CommandYAZ}) {
+        if (button->isEnabled()) disabled_.push_back(button);
+        button->setEnabled(false);
+    }
+    form_.YENINO->setFocus();
+    form_.YENINO->selectAll();
+}
+
+void Renumbering::close_panel() {
+    form_.FrameNODGS->hide();
+    for (QWidget* button : std::exchange(disabled_, {})) button->setEnabled(true);
+}
+
+void Renumbering::CommandNOVAZGEC_Click() {
+    close_panel();
+    form_.ADSOY->setFocus();
+}
+
+void Renumbering::CommandNODEGISTIR_Click() {
+    const std::int64_t from = store::Value(form_.ONO->text()).whole_number();
+    const std::int64_t to = student_number(form_.YENINO->text());
+    if (to == 0) return refuse(u"Geçerli bir numara giriniz."_s);
+    if (!is_free(to, from)) return refuse(u"Bu numarada bir öğrenci kayıtlı."_s);
+    const WaitCursor wait;
+    renumber(from, to);
+    close_panel();
+    main_.list.listeyi_yenile();
+    show_renumbered(from, to);
+}
+
+// Looks the number up and leaves studentTable on the student of the form.
+bool Renumbering::is_free(std::int64_t number, std::int64_t current) {
+    store::Recordset& students = session_.studentTable;
+    students.Seek("=", {number});
+    const bool free = students.NoMatch();
+    students.Seek("=", {current});
+    return free;
+}
+
+void Renumbering::refuse(const QString& words) {
+    prompt::tell(words, u"Dikkat"_s);
+    form_.YENINO->setFocus();
+}
+
+// Another workstation may have deleted the student: then nothing is written. The cash book comes before the student's
+// row, so that it too is repaired when a renumbering that was cut is started again.
+void Renumbering::renumber(std::int64_t from, std::int64_t to) {
+    session_.studentTable["ONO"].required();
+    for (const auto& [table, index] : tables_in_order) move_rows(table, index, from, to);
+    repair_cash_book(from, to);
+    store::Recordset& students = session_.studentTable;
+    students.Seek("=", {from});
+    students.Edit();
+    students["ONO"] = to;
+    students.Update();
+}
+
+// A changed row leaves the old number's rows, so the next one is always the first.
+void Renumbering::move_rows(std::string_view table, std::string_view index, std::int64_t from, std::int64_t to) {
+    store::Recordset rows = session_.termDb.OpenRecordset(table);
+    rows.Index(index);
+    if (!find_first(rows, from)) return;
+    store::WriteScope scope(session_.termDb);
+    while (find_first(rows, from)) {
+        rows.Edit();
+        rows["ONO"] = to;
+        rows.Update();
+        scope.pause_if_due();
+    }
+    scope.commit();
+}
+
+// A cash row names the student's number in front of its text. Only collections that came over to the new number lead
+// there, in this run or in an earlier one that was cut; without any the reference database stays closed.
+void Renumbering::repair_cash_book(std::int64_t from, std::int64_t to) {
+    store::Recordset tahsilat = session_.termDb.OpenRecordset("Tahsilat");
+    tahsilat.Index("OVTX");
+    if (!find_first(tahsilat, to)) return;
+    store::Database reference = store::OpenDatabase(session_.reference_file());
+    store::WriteScope scope(reference);
+    store::Recordset kasa = reference.OpenRecordset("Kasa");
+    kasa.Index("TSX");
+    store::scan_prefix(tahsilat, {to}, [&] {
+        kasa.Seek("=", {tahsilat["TARIH"].value(), tahsilat["KSAAT"].value()});
+        if (kasa.NoMatch() || kasa["KOD"].text() != u"1") return;
+        const QString ack = with_number(kasa["ACK"].text(), from, to);
+        if (ack.isNull()) return;
+        kasa.Edit();
+        kasa["ACK"] = ack;
+        kasa.Update();
+        scope.pause_if_due();
+    });
+    scope.commit();
+}
+
+// The student stays on the form, and on the card if it was there.
+void Renumbering::show_renumbered(std::int64_t from, std::int64_t to) {
+    const QString number = QString::number(to);
+    form_.ONO->setText(number);
+    if (session_.shownStudent == from) main_.show_student(number);
+    session_.studentTable.Seek("=", {to});
+}

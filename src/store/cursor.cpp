@@ -1,0 +1,223 @@
+#include "store/cursor.h"
+
+#include "store/conversion.h"
+#include "store/messages.h"
+
+#include <algorithm>
+
+namespace store {
+
+namespace {
+
+using Kind = ReadRequest::Kind;
+
+constexpr int first_batch = 32;
+constexpr int batch_after_write = 8;
+constexpr int largest_batch = 256;
+
+}  // namespace
+
+Recordset::Cursor::Cursor(std::shared_ptr<Database::Session> session, std::string_view table)
+    : session_(std::move(session)),
+      info_(session_->engine().table(table)),
+      index_(&info_.index_at(0)),
+      writes_(&session_->writes_to(info_.definition().name)) {}
+
+void Recordset::Cursor::misuse(QStringView what) const {
+    throw messages::error(what, file(), info_.definition().name);
+}
+
+void Recordset::Cursor::set_index(std::string_view name) {
+    require_no_edit();
+    const int number = info_.index(name);
+    if (number < 0) misuse(QStringLiteral("İndeks bulunamadı (") + messages::name(name) + u')');
+    index_number_ = number;
+    index_ = &info_.index_at(number);
+    place_ = Place::at_first;
+}
+
+void Recordset::Cursor::read(Kind kind, FieldUse& use, std::span<const Value> keys, RowId row) {
+    place_ = Place::nowhere;  // until the rows are there
+    use_ = &use;
+    at_ = 0;
+    too_narrow_ = false;
+    wide_.rows.clear();
+    const int limit = kind == Kind::last || &use == &index_->point ? 1 : limit_;
+    session_->engine().read({kind, info_, index_number_, use.next(), keys, row, limit, leading_ ? &*leading_ : nullptr},
+                            batch_);
+    stamp_ = *writes_;
+}
+
+void Recordset::Cursor::seek(std::string_view comparison, std::span<const Value> keys) {
+    require_no_edit();
+    const std::size_t fields = index_->fields.size();
+    if (comparison != "=" && comparison != ">") misuse(u"Aramada yalnız = ve > kullanılabilir");
+    if (keys.empty() || keys.size() > fields) misuse(u"Aramada anahtar sayısı indekse uymuyor");
+
+    seek_keys_.clear();
+    bool has_null = false;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        const auto& field = info_.definition().fields[static_cast<std::size_t>(index_->fields[i])];
+        seek_keys_.push_back(key_value(keys[i], field.type));
+        has_null |= keys[i].is_null();
+    }
+    limit_ = first_batch;
+    leading_.reset();
+    if (comparison == "=") {
+        const bool one_row = index_->unique && keys.size() == fields && !has_null;
+        read(Kind::equal, one_row ? index_->point : index_->range, seek_keys_);
+        batch_.complete = false;  // rows with other keys follow
+    } else {
+        if (keys.size() > 1) leading_ = seek_keys_.front();
+        read(Kind::after, index_->range, seek_keys_);
+    }
+    place_ = batch_.size() > 0 ? Place::on_row : Place::nowhere;
+}
+
+void Recordset::Cursor::seek_prefix(std::span<const Value> prefix) {
+    std::vector<Value> keys(prefix.begin(), prefix.end());
+    if (keys.size() >= index_->fields.size()) return seek("=", keys);
+    const auto& next = info_.definition().fields[static_cast<std::size_t>(index_->fields[keys.size()])];
+    keys.push_back(is_text(next.type) ? Value(QStringLiteral("")) : Value());
+    seek(">", keys);
+}
+
+bool Recordset::Cursor::on_prefix(std::size_t count) {
+    if (no_match() || at_end()) return false;
+    require_row();
+    for (std::size_t i = 0; i < count; ++i)
+        if (compare_keys(current_key(i), seek_keys_[i]) != 0) return false;
+    return true;
+}
+
+void Recordset::Cursor::settle() {
+    if (place_ == Place::at_first) move_first_or_end();
+}
+
+void Recordset::Cursor::move_first_or_end() {
+    limit_ = first_batch;
+    leading_.reset();
+    read(Kind::first, index_->range);
+    place_ = batch_.size() > 0 ? Place::on_row : Place::past_end;
+}
+
+bool Recordset::Cursor::at_end() {
+    settle();
+    return place_ == Place::past_end || place_ == Place::nowhere;
+}
+
+bool Recordset::Cursor::has_rows() {
+    settle();
+    if (place_ == Place::on_row && is_fresh()) return true;
+    Batch first;
+    session_->engine().read({Kind::first, info_, index_number_, info_.all_fields()}, first);
+    return first.size() > 0;
+}
+
+void Recordset::Cursor::move_first() {
+    require_no_edit();
+    move_first_or_end();
+    if (place_ == Place::past_end) misuse(u"Tabloda kayıt yok");
+}
+
+void Recordset::Cursor::move_last() {
+    require_no_edit();
+    leading_.reset();
+    read(Kind::last, index_->range);
+    batch_.complete = false;
+    place_ = batch_.size() > 0 ? Place::on_row : Place::past_end;
+    limit_ = batch_after_write;
+    if (place_ == Place::past_end) misuse(u"Tabloda kayıt yok");
+}
+
+void Recordset::Cursor::move_next() {
+    require_no_edit();
+    settle();
+    if (place_ == Place::past_end || place_ == Place::nowhere) misuse(u"İlerlenecek kayıt yok");
+    const bool is_last_read = at_ + 1 == batch_.size();
+    wide_.rows.clear();
+    if (!is_fresh() || (is_last_read ? !batch_.complete : too_narrow_)) return read_on();
+    place_ = is_last_read ? Place::past_end : Place::on_row;
+    if (!is_last_read) ++at_;
+}
+
+void Recordset::Cursor::read_on() {
+    limit_ = is_fresh() ? std::min(limit_ * 4, largest_batch) : batch_after_write;
+    if (leading_ && compare_keys(current_key(0), *leading_) != 0) leading_.reset();
+    const std::vector<Value> keys = current_keys();
+    read(Kind::after, index_->range, keys, row());
+    place_ = batch_.size() > 0 ? Place::on_row : Place::past_end;
+}
+
+void Recordset::Cursor::require_row() {
+    settle();
+    switch (place_) {
+        case Place::on_row: return;
+        case Place::on_deleted: misuse(u"Kayıt silindi, okunamaz");
+        case Place::past_end: misuse(u"Son kaydın ötesinde kayıt yok");
+        default: misuse(u"Aranan kayıt bulunmadı, okunamaz");
+    }
+}
+
+void Recordset::Cursor::require_no_edit() const {
+    session_->engine();
+    if (edit_) misuse(u"Kayıt değişikliği bitmeden başka kayda geçilemez");
+}
+
+const Value& Recordset::Cursor::current_key(std::size_t key) const {
+    return batch_.at(at_, batch_.projection->slot_of(index_->fields[key]));
+}
+
+std::vector<Value> Recordset::Cursor::current_keys() const {
+    std::vector<Value> keys;
+    for (std::size_t key = 0; key < index_->fields.size(); ++key) keys.push_back(current_key(key));
+    return keys;
+}
+
+bool Recordset::Cursor::read_row(Batch& result, const ProjectionPtr& columns) {
+    session_->engine().read({Kind::row, info_, index_number_, columns, {}, row()}, result);
+    return result.size() > 0;
+}
+
+void Recordset::Cursor::refresh() {
+    Batch now;
+    const std::uint64_t stamp = *writes_;
+    if (!read_row(now, use_->next())) throw messages::outcome(Errc::row_gone, file(), info_.definition().name);
+    now.complete = false;
+    batch_ = std::move(now);
+    at_ = 0;
+    stamp_ = stamp;
+    limit_ = batch_after_write;
+    too_narrow_ = false;
+    wide_.rows.clear();
+}
+
+int Recordset::Cursor::field_number(std::string_view name) const {
+    const int field = info_.field(name);
+    if (field < 0) misuse(QStringLiteral("Alan bulunamadı (") + messages::name(name) + u')');
+    return field;
+}
+
+const Value& Recordset::Cursor::value(int field) {
+    session_->engine();
+    if (edit_) {
+        if (const Value* assigned = edit_->assigned(field)) return *assigned;
+        static const Value null;
+        if (!edit_->lock) return null;
+    }
+    if (place_ != Place::on_row) require_row();
+    if (!is_fresh()) refresh();
+    use_->touch(field);
+    const int slot = batch_.projection->slot_of(field);
+    return slot >= 0 ? batch_.at(at_, slot) : value_of_wide_row(field);
+}
+
+// A field that nobody had asked for: the row is read whole, and the next batch brings the field along.
+const Value& Recordset::Cursor::value_of_wide_row(int field) {
+    too_narrow_ = true;
+    if (wide_.size() == 0 && !read_row(wide_, info_.all_fields()))
+        throw messages::outcome(Errc::row_gone, file(), info_.definition().name);
+    return wide_.at(0, field);
+}
+
+}  // namespace store

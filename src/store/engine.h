@@ -1,0 +1,105 @@
+// The narrow interface between the record store and what holds the tables. It speaks of rows, keys and batches; only
+// an engine knows files, connections or a query language.
+#pragma once
+
+#include "store/record.h"
+#include "store/table_info.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace store {
+
+// Names a row of a table for as long as it lives; grows in order of entry.
+using RowId = std::int64_t;
+
+// Rows that were read together.
+struct Batch {
+    ProjectionPtr projection;
+    std::vector<RowId> rows;
+    std::vector<Value> values;  // row after row, projection->width() each
+    bool complete = false;      // nothing follows in the order of the read
+
+    std::size_t size() const { return rows.size(); }
+    const Value& at(std::size_t row, int slot) const {
+        return values[row * projection->width() + static_cast<std::size_t>(slot)];
+    }
+    void clear(const ProjectionPtr& columns) {
+        projection = columns;
+        rows.clear();
+        values.clear();
+        complete = false;
+    }
+};
+
+// What to read. Keys are of their fields' types (conversion.h), leading fields first.
+struct ReadRequest {
+    enum class Kind : std::uint8_t {
+        first,  // from the first row on
+        last,   // the last row alone
+        equal,  // rows whose leading keys equal `keys`
+        after,  // rows behind `keys`; with `row`, behind that row of these keys (then all keys are given)
+        row,    // the row `row` alone
+    };
+    static constexpr RowId no_row = -1;
+
+    Kind kind;
+    const TableInfo& table;
+    int index;
+    const ProjectionPtr& columns;
+    std::span<const Value> keys = {};
+    RowId row = no_row;
+    int limit = 1;
+    // Stop behind the first row whose leading key is another than this: who reads one student's rows needs no more.
+    const Value* leading = nullptr;
+};
+
+struct Assignment {
+    int field;
+    Value value;  // of the field's type
+};
+
+// One open file. Reads outside a transaction hold no lock once they return. Failures throw as record.h says.
+class Engine {
+public:
+    Engine() = default;
+    virtual ~Engine() = default;
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    // Where the tables really lie, the same for every open of the same file: writes of one are told to the others.
+    virtual std::string identity() const = 0;
+    virtual std::vector<TableDef> tables() = 0;
+    virtual TableInfo& table(std::string_view name) = 0;
+    virtual void create_table(const TableDef& table) = 0;
+
+    virtual void read(const ReadRequest& request, Batch& result) = 0;
+    virtual std::int64_t count(const TableInfo& table) = 0;
+
+    // Waits up to 5 s for another writer of this file. `table` is named in the message.
+    virtual void begin(std::string_view table) = 0;
+    virtual void commit(std::string_view table) = 0;
+    virtual void rollback() noexcept = 0;
+    // A failure may have ended the transaction.
+    virtual bool in_transaction() const = 0;
+
+    // Within a transaction only. A failure leaves the other writes of the transaction as they are.
+    virtual RowId insert(const TableInfo& table, std::span<const Assignment> values) = 0;
+    virtual bool update(const TableInfo& table, RowId row, std::span<const Assignment> values) = 0;  // false: gone
+    virtual bool erase(const TableInfo& table, RowId row) = 0;                                       // false: gone
+};
+
+// The engine that the file at `native_path` asks for; refuses with words what no engine serves. `name` is the file as
+// the office writes it, for messages.
+std::unique_ptr<Engine> open_engine(const QString& name, const QString& native_path);
+
+// A new file, which fails where one exists. It is scratch: nothing waits for the disk.
+std::unique_ptr<Engine> create_engine(const QString& name, const QString& native_path);
+
+// A new file with these tables, on the disk when this returns; what is there after a failure is no database.
+void create_engine_file(const QString& name, const QString& native_path, const std::vector<TableDef>& tables);
+
+}  // namespace store

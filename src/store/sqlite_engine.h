@@ -1,0 +1,73 @@
+// The tables in one SQLite database file, shared by the workstations of the office: rollback journal, every commit on
+// the disk before it returns, no lock held between two reads.
+#pragma once
+
+#include "store/engine.h"
+#include "store/sqlite_query.h"
+#include "store/sqlite_statement.h"
+
+#include <chrono>
+#include <unordered_map>
+
+namespace store {
+
+class SqliteEngine : public Engine {
+public:
+    // Opens an existing file. `name` is the file as the office writes it.
+    SqliteEngine(QString name, const QString& native_path);
+    // Makes a new file, unsafe against a cut until `flush`.
+    static std::unique_ptr<SqliteEngine> create(const QString& name, const QString& native_path);
+    void flush();
+
+    std::string identity() const override { return identity_; }
+    std::vector<TableDef> tables() override;
+    TableInfo& table(std::string_view name) override;
+    void create_table(const TableDef& table) override;
+    void read(const ReadRequest& request, Batch& result) override;
+    std::int64_t count(const TableInfo& table) override;
+    void begin(std::string_view table) override;
+    void commit(std::string_view table) override;
+    void rollback() noexcept override;
+    bool in_transaction() const override { return sqlite3_get_autocommit(connection_.get()) == 0; }
+    RowId insert(const TableInfo& table, std::span<const Assignment> values) override;
+    bool update(const TableInfo& table, RowId row, std::span<const Assignment> values) override;
+    bool erase(const TableInfo& table, RowId row) override;
+
+private:
+    struct New {};
+    SqliteEngine(QString name, const QString& native_path, New);
+    void connect(const QString& native_path);
+    void check_header();
+    void read_rows(const ReadRequest& request, Batch& result);
+    void read_behind_null(const ReadRequest& request, Batch& result);
+    // Whether the statement had no row left.
+    bool take_rows(SqliteStatement& statement, const ReadRequest& request, Batch& result);
+    SqliteStatement& select(const ReadRequest& request, const ReadShape& shape);
+    SqliteStatement& statement(const std::string& sql);
+    void execute(const std::string& sql) { statement(sql).run(); }
+    TableDef define(std::string_view name);
+    void bind_all(SqliteStatement& statement, std::span<const Assignment> values);
+    // Runs `action` and turns a failure of SQLite into the store's words.
+    template <typename Action>
+    auto guarded(std::string_view table, Action action) {
+        try {
+            return action();
+        } catch (const SqliteFailure& failure) {
+            fail(failure.code, table);
+        }
+    }
+    [[noreturn]] void fail(int code, std::string_view table) const;
+    static int wait_for_lock(void* self, int attempt);
+
+    static constexpr std::size_t most_reads = 200;  // prepared statements kept
+
+    QString name_;
+    std::string identity_;
+    SqliteConnection connection_;  // before the statements, which must go first
+    std::unordered_map<std::uint64_t, SqliteStatement> reads_;
+    std::unordered_map<std::string, SqliteStatement> statements_;
+    std::unordered_map<std::string, TableInfo*> tables_;
+    std::chrono::steady_clock::time_point waiting_since_;
+};
+
+}  // namespace store

@@ -1,0 +1,83 @@
+#include "store/sqlite_statement.h"
+
+#include <QByteArray>
+
+#include <string>
+
+namespace store {
+
+SqliteStatement::SqliteStatement(sqlite3* connection, std::string_view sql) {
+    sqlite3_stmt* statement = nullptr;
+    const int code = sqlite3_prepare_v3(connection, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
+                                        &statement, nullptr);
+    statement_.reset(statement);
+    if (code != SQLITE_OK) throw SqliteFailure{sqlite3_extended_errcode(connection)};
+}
+
+void SqliteStatement::check(int code) const {
+    if (code != SQLITE_OK) throw SqliteFailure{code};
+}
+
+void SqliteStatement::bind(int place, std::int64_t number) {
+    check(sqlite3_bind_int64(statement_.get(), place, number));
+}
+
+void SqliteStatement::bind(int place, std::string_view utf8) {
+    check(sqlite3_bind_text64(statement_.get(), place, utf8.data(), utf8.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
+}
+
+void SqliteStatement::bind(int place, const Value& value) {
+    if (const auto* whole = std::get_if<std::int64_t>(&value.raw())) {
+        bind(place, *whole);
+    } else if (const auto* number = std::get_if<double>(&value.raw())) {
+        check(sqlite3_bind_double(statement_.get(), place, *number));
+    } else if (const auto* text = std::get_if<QString>(&value.raw())) {
+        const QByteArray utf8 = text->toUtf8();
+        bind(place, std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+    } else {
+        check(sqlite3_bind_null(statement_.get(), place));
+    }
+}
+
+bool SqliteStatement::step() {
+    const int code = sqlite3_step(statement_.get());
+    if (code == SQLITE_ROW) return true;
+    const int extended = sqlite3_extended_errcode(sqlite3_db_handle(statement_.get()));
+    reset();
+    if (code != SQLITE_DONE) throw SqliteFailure{extended};
+    return false;
+}
+
+void SqliteStatement::run() {
+    while (step()) {
+    }
+}
+
+Value SqliteStatement::value(int column) const {
+    sqlite3_stmt* row = statement_.get();
+    switch (sqlite3_column_type(row, column)) {
+        case SQLITE_INTEGER: return sqlite3_column_int64(row, column);
+        case SQLITE_FLOAT: return sqlite3_column_double(row, column);
+        case SQLITE_NULL: return {};
+        default: {
+            const auto* utf8 = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
+            return QString::fromUtf8(utf8, sqlite3_column_bytes(row, column));
+        }
+    }
+}
+
+std::string SqliteStatement::text(int column) const {
+    const auto* utf8 = reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
+    return utf8 ? std::string(utf8, static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), column))) : "";
+}
+
+std::string quoted_name(std::string_view name) {
+    std::string quoted = "\"";
+    for (const char letter : name) {
+        if (letter == '"') quoted += '"';
+        quoted += letter;
+    }
+    return quoted += '"';
+}
+
+}  // namespace store

@@ -1,0 +1,65 @@
+// A connection and a prepared statement of SQLite, owned.
+#pragma once
+
+#include "store/value.h"
+
+#include <sqlite3.h>
+
+#include <memory>
+#include <string_view>
+
+namespace store {
+
+struct SqliteClose {
+    void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
+};
+using SqliteConnection = std::unique_ptr<sqlite3, SqliteClose>;
+
+// Prepared once, run many times. A failure throws SqliteFailure, which never leaves the engine.
+struct SqliteFailure {
+    int code;  // extended
+};
+
+class SqliteStatement {
+public:
+    SqliteStatement(sqlite3* connection, std::string_view sql);
+
+    // `place` counts from 1.
+    void bind(int place, const Value& value);
+    void bind(int place, std::int64_t number);
+    void bind(int place, std::string_view utf8);
+    // Whether there is a (further) row. At the end and on failure the statement is reset and holds no lock.
+    bool step();
+    void reset() { sqlite3_reset(statement_.get()); }
+    // Steps to the end; for statements whose rows nobody reads.
+    void run();
+
+    Value value(int column) const;
+    std::int64_t whole(int column) const { return sqlite3_column_int64(statement_.get(), column); }
+    std::string text(int column) const;
+
+private:
+    struct Finalize {
+        void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+    };
+    void check(int code) const;
+
+    std::unique_ptr<sqlite3_stmt, Finalize> statement_;
+};
+
+// Resets at the end of a read, so that no lock outlives it.
+class SqliteReset {
+public:
+    explicit SqliteReset(SqliteStatement& statement) : statement_(statement) {}
+    ~SqliteReset() { statement_.reset(); }
+    SqliteReset(const SqliteReset&) = delete;
+    SqliteReset& operator=(const SqliteReset&) = delete;
+
+private:
+    SqliteStatement& statement_;
+};
+
+// A name within quotes.
+std::string quoted_name(std::string_view name);
+
+}  // namespace store

@@ -1,0 +1,143 @@
+#include "till.h"
+
+#include "platform/slots.h"
+#include "session/panel_setup.h"
+
+#include <QDir>
+#include <QTest>
+
+const QString School::term_file = QStringLiteral("c:\\okul\\data\\2026ogr.mdb");
+const QString School::reference_file = QStringLiteral("c:\\okul\\data\\Bilgi.mdb");
+
+School::School() {
+    qputenv("KURVO_DRIVES", folder_.path().toUtf8());
+    qputenv("KURVO_PRINTER", "pdf:" + folder_.path().toUtf8() + "/papers");
+    QDir(folder_.path()).mkpath(QStringLiteral("c/okul/data"));
+    store::create_file(term_file, store::catalogue(store::FileKind::term));
+    store::create_file(reference_file, store::catalogue(store::FileKind::reference));
+    fatal::set_handler([this](const std::exception& error) { failures << QString::fromUtf8(error.what()); });
+    PrintSurface::set_observer([this](const PrintSurface::Document& paper) { papers.push_back(paper); });
+}
+
+School::~School() {
+    fatal::set_handler({});
+    PrintSurface::set_observer({});
+    qunsetenv("KURVO_DRIVES");
+    qunsetenv("KURVO_PRINTER");
+}
+
+void School::add(const QString& file, std::string_view table, Row fields) {
+    store::Database database = store::OpenDatabase(file);
+    store::Recordset records = database.OpenRecordset(table);
+    records.AddNew();
+    for (const auto& [name, value] : fields) records[name] = value;
+    records.Update();
+}
+
+void School::instalment(const QString& vade, double tutar, double odenen, int ono) {
+    add(term_file, "Odeme",
+        {{"ONO", ono},
+         {"VADE", vade},
+         {"TUTAR", tutar},
+         {"ODENEN", odenen},
+         {"ACK", " "},
+         {"ODSEK", 2},
+         {"CYER", " "}});
+}
+
+QStringList School::rows(const QString& file, std::string_view table, std::initializer_list<std::string_view> fields) {
+    store::Database database = store::OpenDatabase(file);
+    store::Recordset records = database.OpenRecordset(table);
+    QStringList all;
+    store::scan_all(records, [&] {
+        QStringList row;
+        for (const std::string_view field : fields) row << records[field].text();
+        all << row.join(u'|');
+    });
+    return all;
+}
+
+// What start-up leaves for a user with the right to collect.
+void Till::set_up() {
+    session.dataRoot = QStringLiteral("c:\\okul\\");
+    session.termCode = QStringLiteral("2026");
+    session.schoolName = QStringLiteral("ÖZEL IŞIK");
+    session.lineThickness = QStringLiteral("2");
+    session.forceTodayOnPosting = QStringLiteral("0");
+    session.collectionsAllowed = 1;
+    kurvo.CommandTAHSILAT->show();
+    kurvo.ComboKASATIP->addItems({QStringLiteral("TL"), QStringLiteral("EURO")});
+    kurvo.SDONEM->addItem(session.termCode);
+    set_up_list(kurvo);
+    set_up_panels(kurvo);
+}
+
+Till::Till(CollectionPapers papers)
+    : terms(kurvo, session),
+      statement(kurvo, session),
+      screen(kurvo, session, terms),
+      posting(kurvo, session, statement, screen, std::move(papers)) {
+    set_up();
+    terms.open();
+    kurvo.show();
+    if (!QTest::qWaitForWindowActive(&kurvo)) qFatal("the form does not come up");
+}
+
+void Till::pick(int number) {
+    kurvo.LONO->setText(QString::number(number));
+    kurvo.LADSOYAD->setText(QStringLiteral("AYŞE NUR YILDIRIM"));
+    session.studentSelected = true;
+    session.shownStudent = number;
+    statement.odeme_durumu();
+    press(kurvo.CommandTAHSILAT);
+}
+
+void Till::type(QLineEdit* box, const QString& keys) {
+    kurvo.activateWindow();
+    if (!QTest::qWaitForWindowActive(&kurvo)) qFatal("the form does not come up");
+    box->setFocus();
+    box->selectAll();
+    for (const QChar key : keys) {
+        if (key == u'<')
+            QTest::keyClick(box, Qt::Key_Backspace);
+        else
+            QTest::keyClick(box, key.toLatin1());
+    }
+}
+
+void Till::type_amount(const QString& keys) {
+    type(kurvo.ODENEN, keys);
+}
+
+void Till::click_cell(GridView& grid, int row, int column) {
+    const QPoint place = grid.viewport()->mapFrom(grid.parentWidget(), grid.cell_rect(row, column).center());
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place);
+}
+
+void Till::click_row(int row) {
+    click_cell(*kurvo.FTahsil_Tablo2, row, 1);
+}
+
+QStringList Till::marks() const {
+    QStringList all;
+    for (int row = 0; row < kurvo.FTahsil_Tablo2->rows(); ++row)
+        all << kurvo.FTahsil_Tablo2->text(row, 0).trimmed() + kurvo.FTahsil_Tablo2->text(row, 6);
+    return all;
+}
+
+void Till::correct(int row, const QString& keys) {
+    click_cell(*kurvo.FTahsil_TABLO4, row, 4);
+    type(kurvo.Cel_In, keys);
+}
+
+void Till::press(QAbstractButton* button) {
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void Till::collect(const QString& amount, QRadioButton* option) {
+    type_amount(amount);
+    begin_second_stage();
+    if (option != nullptr) press(option);
+    if (kurvo.FTahsil_Frame2->isVisible()) press(kurvo.CommandOK2);
+    press(kurvo.CommandOK);
+}

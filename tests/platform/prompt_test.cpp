@@ -1,0 +1,107 @@
+#include "platform/prompt.h"
+
+#include "control_tests.h"
+#include "platform/slots.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <stdexcept>
+#ifdef Q_OS_UNIX
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+// Presses a key in the box as soon as there is one.
+class Person : public QTimer {
+public:
+    explicit Person(Qt::Key key) {
+        callOnTimeout([this, key] {
+            QWidget* box = QApplication::activeModalWidget();
+            if (box == nullptr || !box->isVisible()) return;
+            stop();
+            const auto* message = qobject_cast<QMessageBox*>(box);
+            for (const QAbstractButton* button : message->buttons()) buttons += button->text();
+            title = message->windowTitle();
+            QTest::keyClick(box->focusWidget() != nullptr ? box->focusWidget() : box, key);
+        });
+        start(1);
+    }
+
+    QStringList buttons;
+    QString title;
+};
+
+}  // namespace
+
+void PromptTest::keys_answer_data() {
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<bool>("answer");
+    QTest::newRow("Enter") << Qt::Key_Return << true;
+    QTest::newRow("Esc") << Qt::Key_Escape << false;
+}
+
+void PromptTest::keys_answer() {
+    QFETCH(Qt::Key, key);
+    Person person(key);
+    QTEST(prompt::ask("Kayıt silinsin mi?", "Dikkat"), "answer");
+    QCOMPARE(person.title, "Dikkat");
+    person.buttons.sort();
+    QCOMPARE(person.buttons, QStringList({"Tamam", QStringLiteral("İptal")}));
+    Person reader(key);
+    prompt::tell("<b>Bitti</b>");
+    QCOMPARE(reader.buttons, QStringList("Tamam"));
+}
+
+void PromptTest::script_keeps_what_went_wrong() {
+    prompt::Script script;
+    script.expect("silinsin", true).expect("emin", false).expect("bitti");
+    QVERIFY(prompt::ask("Kayıt silinsin mi?", "Dikkat"));
+    QVERIFY(!prompt::ask("emin misiniz?"));
+    QCOMPARE(script.failures().size(), 1);  // the last is still to come
+    {
+        prompt::Script inner;
+        prompt::tell("hiç");
+        QCOMPARE(inner.failures().size(), 1);
+    }
+    prompt::tell("bitti");
+    QCOMPARE(script.failures(), QStringList());
+    QVERIFY(!prompt::ask("daha?"));
+    QCOMPARE(script.failures().size(), 1);
+    QCOMPARE(script.seen(),
+             QStringList({"Dikkat|Kayıt silinsin mi?", "Kurvo|emin misiniz?", "Kurvo|bitti", "Kurvo|daha?"}));
+}
+
+void PromptTest::exception_stays_in_the_slot() {
+    QString what;
+    fatal::set_handler([&](const std::exception& error) { what = error.what(); });
+    QPushButton button;
+    on(&button, &QPushButton::clicked, this, [] { throw std::runtime_error("Dosya kilitli"); });
+    button.click();
+    fatal::set_handler({});
+    QCOMPARE(what, "Dosya kilitli");
+}
+
+void PromptTest::program_ends_once() {
+#ifdef Q_OS_UNIX
+    const pid_t child = fork();
+    if (child == 0) {
+        // A second error while the first one's box waits for its Enter.
+        Person person(Qt::Key_Return);
+        QTimer::singleShot(0, [] { fatal::guard([] { throw std::runtime_error("ikinci"); }); });
+        fatal::guard([] { throw std::runtime_error("birinci"); });
+        _exit(77);
+    }
+    int status = 0;
+    QCOMPARE(waitpid(child, &status, 0), child);
+    QVERIFY(WIFEXITED(status));
+    QCOMPARE(WEXITSTATUS(status), 1);
+#else
+    QSKIP("needs fork");
+#endif
+}

@@ -1,0 +1,61 @@
+// One term file in a folder of drives of the test's own, and short words for its rows.
+#pragma once
+
+#include "store/record.h"
+#include "support/drives.h"
+
+#include <QTest>
+
+#include <string_view>
+#include <utility>
+
+struct Office {
+    Office() {
+        QDir(drives.path("")).mkpath("c/okul");
+        store::create_file(file, store::catalogue(store::FileKind::term));
+    }
+
+    Drives drives;
+    QString file = QStringLiteral("c:\\okul\\2026ogr.mdb");
+};
+
+using Fields = std::initializer_list<std::pair<std::string_view, store::Value>>;
+
+inline void add(store::Recordset& records, Fields fields) {
+    records.AddNew();
+    for (const auto& [name, value] : fields) records[name] = value;
+    records.Update();
+}
+
+inline void add_instalment(store::Recordset& odeme, int ono, const store::Value& vade, int tutar) {
+    add(odeme, {{"ONO", ono}, {"VADE", vade}, {"TUTAR", tutar}});
+}
+
+// A field of all rows in the order of the current index.
+inline QStringList walk(store::Recordset& records, std::string_view field) {
+    QStringList texts;
+    store::scan_all(records, [&] { texts << records[field].text(); });
+    return texts;
+}
+
+// What a failing action says; an empty text where it does not fail.
+template <typename Action>
+QString failure_of(Action action) {
+    try {
+        action();
+    } catch (const std::exception& failure) {
+        return QString::fromUtf8(failure.what());
+    }
+    return {};
+}
+
+// The code of a failing action; no error where it does not fail.
+template <typename Action>
+std::error_code code_of(Action action) {
+    try {
+        action();
+    } catch (const std::system_error& failure) {
+        return failure.code();
+    }
+    return {};
+}
