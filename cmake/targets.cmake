@@ -23,7 +23,7 @@ function(kurvo_test folder)
   set_target_properties(${folder}_test PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${folder} COMMAND ${folder}_test)
   set_tests_properties(${folder} PROPERTIES TIMEOUT 300
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QTEST_DISABLE_STACK_DUMP=1;XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR}")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR}")
 endfunction()
 
 # One lean precompiled header for all: it halves the compile time of a file.

@@ -52,8 +52,11 @@ void CollectionScreen::connect_first_stage() {
 void CollectionScreen::connect_second_stage() {
     on(kurvo_.FTahsil_TABLO4, &GridView::cell_pressed, this,
        [this](int row, int column) { FTahsil_TABLO4_MouseDown(row, column); });
-    on(kurvo_.FTahsil_TABLO4, &GridView::cell_clicked, this,  // by a key
-       [this](int row, int column) { FTahsil_TABLO4_MouseDown(row, column); });
+    on(kurvo_.FTahsil_TABLO4, &GridView::cell_clicked, this, [this](int row, int column) {
+        // A key opens the editor; the mouse has done so when it was pressed.
+        const bool is_open = row == edited_row_ && column == chosen_grid::odenen && kurvo_.Cel_In->isVisible();
+        if (!is_open) FTahsil_TABLO4_MouseDown(row, column);
+    });
     on(kurvo_.FTahsil_TABLO4, &GridView::scrolled, this, [this] { kurvo_.Cel_In->hide(); });
     on(kurvo_.Cel_In, &QLineEdit::textChanged, this, [this] { Cel_In_Change(); });
     on(kurvo_.MOP, &QRadioButton::toggled, this, [this](bool chosen) {
@@ -237,8 +240,8 @@ void CollectionScreen::propose_number(const QString& series) {
     store::Recordset belgeno = reference.OpenRecordset("Belgeno");
     belgeno.Index("SERIX");
     belgeno.Seek("=", {series});
-    const std::int64_t last = belgeno.NoMatch() ? 0 : belgeno["SNO"].whole_number();
-    kurvo_.FTahsil_BNO->setText(QString::number(last + 1));
+    const double last = belgeno.NoMatch() ? 0 : belgeno["SNO"].required().number();
+    kurvo_.FTahsil_BNO->setText(numbers::plain(last + 1));
 }
 
 // While the details of an invoice are asked for, neither its number nor its kind may change.
@@ -260,6 +263,8 @@ void CollectionScreen::CommandGERI_Click() {
     hide({kurvo_.CommandOK, kurvo_.CommandGERI, kurvo_.FTahsil_Frame1, kurvo_.Cel_In});
     kurvo_.kilidi_ac(locked_controls());
     kurvo_.kilidi_ac({kurvo_.ODENEN, kurvo_.KASAODENEN});
+    // Else the keys would go to whatever comes next, and an arrow key could change the term.
+    kurvo_.FTahsil_Tablo2->setFocus();
 }
 
 void CollectionScreen::donem_degisecek() {

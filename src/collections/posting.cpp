@@ -5,17 +5,13 @@
 #include "collections/payment_rows.h"
 #include "collections/receipt.h"
 #include "collections/statement.h"
+#include "platform/attempt.h"
 #include "platform/clock.h"
 #include "platform/numbers.h"
-#include "platform/prompt.h"
 #include "platform/slots.h"
 #include "platform/wait_cursor.h"
 
-#include <stdexcept>
-
 namespace {
-
-const QString attention = QStringLiteral("Dikkat");
 
 // A text field without a value holds one blank.
 QString blank_for_empty(const QString& text) {
@@ -114,24 +110,17 @@ void Posting::add_payments(const QString& tarih, const QString& ksaat) {
 }
 
 void Posting::print_document() {
-    const auto print = [](const std::function<void()>& paper, const QString& missing) {
-        if (paper) return paper();
-        prompt::tell(missing, attention);
-    };
-    if (kurvo_.MOP->isChecked()) print_receipt();
-    if (kurvo_.FOP->isChecked())
-        print(papers_.fatura_yaz, QStringLiteral("Tahsilat kaydedildi. Fatura bu sürümde henüz basılamıyor."));
-    if (kurvo_.DOP->isChecked())
-        print(papers_.plan_yaz, QStringLiteral("Tahsilat kaydedildi. Ödeme planı bu sürümde henüz basılamıyor."));
+    if (kurvo_.MOP->isChecked())
+        print(QStringLiteral("makbuz"), [this] { makbuz_yaz(kurvo_, session_, last_posting_); });
+    if (kurvo_.FOP->isChecked()) print(QStringLiteral("fatura"), papers_.fatura_yaz);
+    if (kurvo_.DOP->isChecked()) print(QStringLiteral("ödeme planı"), papers_.plan_yaz);
 }
 
-// The rows are stored: a printer that fails must not end the program, or the clerk would post once more.
-void Posting::print_receipt() {
-    try {
-        makbuz_yaz(kurvo_, session_, last_posting_);
-    } catch (const std::runtime_error& error) {
-        prompt::tell(
-            QStringLiteral("Tahsilat kaydedildi, fakat makbuz basılamadı.\n\n") + QString::fromUtf8(error.what()),
-            attention);
-    }
+// The rows are stored: a paper that fails must not end the program, or the clerk would post once more.
+void Posting::print(const QString& name, const std::function<void()>& paper) {
+    if (paper)
+        attempt(QStringLiteral("Tahsilat kaydedildi, fakat %1 basılamadı.").arg(name), paper);
+    else
+        prompt::tell(QStringLiteral("Tahsilat kaydedildi, fakat %1 bu sürümde henüz basılamıyor.").arg(name),
+                     QStringLiteral("Dikkat"));
 }

@@ -38,7 +38,7 @@ private:
     QString add_kasa_row(store::Database& reference, const QString& tarih);
     void add_payments(const QString& tarih, const QString& ksaat);
     void print_document();
-    void print_receipt();
+    static void print(const QString& name, const std::function<void()>& paper);
 
     Kurvo& kurvo_;
     SessionContext& session_;

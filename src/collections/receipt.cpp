@@ -1,25 +1,18 @@
 #include "collections/receipt.h"
 
+#include "collections/grids.h"
 #include "fees/amount_in_words.h"
 #include "platform/clock.h"
 #include "platform/numbers.h"
-#include "platform/print_surface.h"
+#include "platform/paper_text.h"
 
 #include <array>
 
 namespace {
 
-using Font = PrintSurface::Font;
-
 constexpr std::array copy_tops{450.0, 8800.0};
 constexpr double left_edge = 1000, right_edge = 10500;
 constexpr double amount_start = 4100;
-
-struct Text {
-    double x, y;  // y from the top of the copy
-    Font font;
-    QString text;
-};
 
 // One copy of the receipt; `y_` goes down as it is written.
 class Copy {
@@ -59,25 +52,21 @@ void Copy::print_bold(const QString& text) {
 
 void Copy::heading(const QString& school) {
     const std::array texts{
-        Text{500, 0, {14, true, true, {}}, school},
-        Text{4000, 600, {12, true, false, {}}, QStringLiteral("TAHSİLAT MAKBUZU")},
-        Text{8500,
-             100,
-             {10, false, false, {}},
-             QStringLiteral("Tarih            :  ") + dates::shown(kurvo_.FTahsil_TARIH->date())},
-        Text{8500, 400, {10, false, false, {}}, QStringLiteral("Makbuz No :  ") + kurvo_.FTahsil_BNO->text()},
-        Text{1000, 1400, {12, false, false, {}}, QStringLiteral("Öğrenci No : ") + kurvo_.LONO->text()},
-        Text{1000, 1750, {12, false, false, {}}, QStringLiteral("Adı Soyadı   : ") + kurvo_.LADSOYAD->text()},
-        Text{1000, 2300, {10, true, false, {}}, QStringLiteral("Vade Tarihi")},
-        Text{2500, 2300, {10, true, false, {}}, QStringLiteral("Şekli")},
-        Text{4700, 2300, {10, true, false, {}}, QStringLiteral("Tutar")},
-        Text{6000, 2300, {10, true, false, {}}, QStringLiteral("Açıklama")},
+        PaperText{500, 0, {14, true, true, {}}, school},
+        PaperText{4000, 600, {12, true, false, {}}, QStringLiteral("TAHSİLAT MAKBUZU")},
+        PaperText{8500,
+                  100,
+                  {10, false, false, {}},
+                  QStringLiteral("Tarih            :  ") + dates::shown(kurvo_.FTahsil_TARIH->date())},
+        PaperText{8500, 400, {10, false, false, {}}, QStringLiteral("Makbuz No :  ") + kurvo_.FTahsil_BNO->text()},
+        PaperText{1000, 1400, {12, false, false, {}}, QStringLiteral("Öğrenci No : ") + kurvo_.LONO->text()},
+        PaperText{1000, 1750, {12, false, false, {}}, QStringLiteral("Adı Soyadı   : ") + kurvo_.LADSOYAD->text()},
+        PaperText{1000, 2300, {10, true, false, {}}, QStringLiteral("Vade Tarihi")},
+        PaperText{2500, 2300, {10, true, false, {}}, QStringLiteral("Şekli")},
+        PaperText{4700, 2300, {10, true, false, {}}, QStringLiteral("Tutar")},
+        PaperText{6000, 2300, {10, true, false, {}}, QStringLiteral("Açıklama")},
     };
-    for (const Text& text : texts) {
-        paper_.font(text.font);
-        paper_.move_to(text.x, y_ + text.y);
-        paper_.print(text.text);
-    }
+    print_texts(paper_, 0, y_, texts);
     paper_.line(left_edge, y_ + 2550, right_edge, y_ + 2550);
     paper_.bold(false);
     y_ += 2700;
@@ -86,10 +75,10 @@ void Copy::heading(const QString& school) {
 void Copy::rows() {
     const GridView& grid = *kurvo_.FTahsil_TABLO4;
     for (int row = grid.fixed_rows(); row < grid.rows(); ++row) {
-        print_at(left_edge, grid.text(row, 0));
-        print_at(2500, grid.text(row, 1));
-        print_amount(grid.text(row, 4));
-        print_at(6000, grid.text(row, 2));
+        print_at(left_edge, grid.text(row, chosen_grid::vade));
+        print_at(2500, grid.text(row, chosen_grid::odsek));
+        print_amount(grid.text(row, chosen_grid::odenen));
+        print_at(6000, grid.text(row, chosen_grid::ack));
         y_ += 250;
     }
     y_ += 50;
@@ -123,7 +112,7 @@ void Copy::remainder() {
     paper_.print_line(QStringLiteral("  TL'dir."));
     paper_.set_x(left_edge);
     paper_.print(QStringLiteral("En yakın ödeme tarihiniz : "));
-    print_bold(open.text(0, 1));
+    print_bold(open.text(0, open_grid::vade));
 }
 
 }  // namespace

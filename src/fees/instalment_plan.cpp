@@ -2,6 +2,7 @@
 
 #include "fees/automatic_plan.h"
 #include "fees/payment_forms.h"
+#include "fees/plan_grid.h"
 #include "platform/clock.h"
 #include "platform/numbers.h"
 #include "platform/prompt.h"
@@ -13,11 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Columns of TABLO2; the first one holds the number that Sno names a row by.
-namespace plan_grid {
-constexpr int vade = 1, tutar = 2, odsek = 3, ack = 4, odenen = 5;
-}
 
 const QString attention = u"Dikkat"_s;
 
@@ -34,6 +30,8 @@ QString before_blank(const QString& text) {
 InstalmentPlan::InstalmentPlan(KurvoYeni& form, SessionContext& session, PlanOwner owner)
     : form_(form), session_(session), owner_(std::move(owner)) {
     // Only a choice by the clerk comes as activated; clearing and loading the form do not.
+    for (QComboBox* choice : {form_.BOLUM, form_.DIN})
+        on(choice, &QComboBox::activated, this, [this, choice] { propose_fee(*choice); });
     on(form_.ISKONTO, &QComboBox::activated, this, [this](int item) { ISKONTO_Click(item); });
     on(form_.TABLO2, &GridView::cell_clicked, this, [this] { TABLO2_Click(); });
     on(form_.TABLO2, &GridView::cell_double_clicked, this, [this] { TABLO2_DblClick(); });
@@ -83,6 +81,10 @@ void InstalmentPlan::taksit_listele() {
     form_.TFARK->setText(numbers::picture(numbers::whole(form_.KTUTAR->text()) - borc));
 }
 
+void InstalmentPlan::propose_fee(const QComboBox& choice) {
+    if (!session_.studentSelected) kayit_bedeli_getir(choice.currentText());
+}
+
 void InstalmentPlan::kayit_bedeli_getir(const QString& text) {
     store::Database reference = store::OpenDatabase(session_.reference_file());
     store::Recordset fiyat = reference.OpenRecordset("Fiyat");
@@ -101,7 +103,7 @@ void InstalmentPlan::TABLO2_Click() {
     const GridView& grid = *form_.TABLO2;
     const int row = grid.row();
     if (row < 0) return;
-    form_.Sno->setText(grid.text(row, 0));
+    form_.Sno->setText(grid.text(row, plan_grid::sno));
     form_.VADE->set_key(dates::key_of_shown(grid.text(row, plan_grid::vade)));
     form_.TUTAR->setText(numbers::plain(numbers::whole(grid.text(row, plan_grid::tutar))));
     form_.ODSEK->setCurrentText(grid.text(row, plan_grid::odsek));
@@ -119,7 +121,8 @@ void InstalmentPlan::CommandEKLE_Click() {
         case Written::below_paid:
             prompt::tell(u"Tutar Ödenenden küçük olamaz"_s);
             return form_.TUTAR->setFocus();
-        case Written::yes: break;
+        case Written::yes:
+            break;
     }
     store_student_if_new();
     taksit_listele();

@@ -28,13 +28,15 @@ public:
     // Refills TABLO2, the four totals of the column "Yeni" and TFARK for the student whose number stands in ONO.
     void taksit_listele();
 
-    // Proposes in KTUTAR the fee that the price list has for a track or a grade; empties it where it has none.
+    // Proposes in KTUTAR the fee that the price list has for a track or a grade; empties it where it has none. Runs by
+    // itself for what is chosen in BOLUM or DIN while no student is loaded.
     void kayit_bedeli_getir(const QString& text);
 
 private:
     enum class Written { yes, date_is_paid, below_paid };
     enum class Removed { yes, gone, paid };
 
+    void propose_fee(const QComboBox& choice);
     void ISKONTO_Click(int item);
     void TABLO2_Click();
     void TABLO2_DblClick();

@@ -47,6 +47,7 @@ void set_heading_widths(QFrame* headings, const std::vector<int>& twips, std::si
 
 Kurvo::Kurvo(QWidget* parent) : QWidget(parent) {
     KurvoForm::setupUi(this);
+    setObjectName(QStringLiteral("Kurvo"));
     FrameSbul::setupUi(Frame_SBUL);
     FrameTahsil::setupUi(Frame_Tahsil);
     bslk = {bslk_0, bslk_1, bslk_2};
@@ -76,6 +77,7 @@ void Kurvo::set_up_controls() {
 // As wide as the list's columns with its scroll bar, so that nothing of a name is lost and nothing is wasted.
 void Kurvo::set_up_list_column() {
     const int scroll_bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    SDONEM->installEventFilter(this);
     bslk[0]->setFixedWidth(pixels(500));
     bslk[1]->setFixedWidth(pixels(700));
     const int width = pixels(500) + pixels(700) + pixels(2500) + scroll_bar + 2 * TABLO->frameWidth();
@@ -102,6 +104,7 @@ void Kurvo::set_up_collections() {
     // What an overlay covers is out of reach for the keyboard too.
     FTahsil_Frame1->installEventFilter(this);
     FTahsil_Frame2->installEventFilter(this);
+    CommandOK->installEventFilter(this);
 }
 
 void Kurvo::set_up_panels() {
@@ -194,7 +197,9 @@ void Kurvo::status(const QString& text) {
     status_line->setText(text);
 }
 
+// Locked by a form above it, whose unsaved record would be lost; the window manager closes it all the same.
 void Kurvo::closeEvent(QCloseEvent* event) {
+    if (!isEnabled()) return event->ignore();
     emit closing();
     event->accept();
 }
@@ -209,6 +214,11 @@ void Kurvo::keyPressEvent(QKeyEvent* event) {
 
 bool Kurvo::eventFilter(QObject* watched, QEvent* event) {
     if (watched == Shape[1] && event->type() == QEvent::Resize) lay_out_panels();
+    // A wheel that misses the list of students must not leave the term and with it the student.
+    if (watched == SDONEM && event->type() == QEvent::Wheel) return true;
+    // The button that posts comes up under the pointer that has just pressed CommandTAHSIL: the second half of a
+    // double click must not post.
+    if (watched == CommandOK && event->type() == QEvent::MouseButtonDblClick) return true;
     if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
         const bool uncovered = event->type() == QEvent::HideToParent;
         if (watched == FTahsil_Frame1) FTahsil_Tablo2->setEnabled(uncovered);

@@ -42,7 +42,7 @@ public:
     // list and the search button.
     std::vector<QWidget*> student_choice() const;
 
-    // Places a panel button in the column of panel buttons; its top in twips as told by the rights mask, where the
+    // Places a panel button in the column of panel buttons; its top in twips as the rights mask counts it, where the
     // first button stands at 480 and a step is 240. Showing it is the caller's.
     void place_button(QPushButton* button, int top_twips);
 

@@ -59,6 +59,7 @@ QGridLayout* block_grid(QWidget* block, const QString& heading) {
 
 KurvoYeni::KurvoYeni(QWidget* parent) : QWidget(parent, Qt::Window) {
     KurvoYeniForm::setupUi(this);
+    setObjectName(u"KurvoYeni"_s);
     FrameOdemeler::setupUi(payments_place);
     make_controls();
     build_blocks();
@@ -148,18 +149,23 @@ void KurvoYeni::build_blocks() {
     for (auto& [column, layout] : columns) layout->addStretch(1);
 }
 
-// Two controls of a row share its width evenly, so that rows of two stand under each other.
+// Two controls of a row share its width evenly, so that rows of two stand under each other; a text that goes on behind
+// another control without a caption takes more.
 void KurvoYeni::add_controls(QBoxLayout& line, const QStringList& names) {
     QString caption = caption_of(names.first());
     for (const QString& name : names) {
-        if (caption_of(name) != caption && !caption_of(name).isEmpty()) {
+        const bool has_own_caption = caption_of(name) != caption && !caption_of(name).isEmpty();
+        if (has_own_caption) {
             QLabel* label = caption_label(caption_of(name).trimmed(), name);
             if (names.size() == 2) label->setMinimumWidth(inner_caption_width);
             line.addWidget(label);
         }
-        caption = caption_of(name);
+        if (!caption_of(name).isEmpty()) caption = caption_of(name);
         QWidget* const placed = control(name);
-        line.addWidget(placed, qobject_cast<QAbstractButton*>(placed) == nullptr ? 1 : 0);
+        const bool goes_on = name != names.first() && !has_own_caption && qobject_cast<QLineEdit*>(placed) != nullptr;
+        const bool is_field = qobject_cast<QAbstractButton*>(placed) == nullptr;
+        line.addWidget(placed, !is_field ? 0 : goes_on ? 3 : 2);
+        if (!has_own_caption && is_field) placed->setAccessibleName(caption.trimmed());
         reading_order_.push_back(placed);
     }
 }

@@ -54,6 +54,7 @@ QPalette palette_of(const Scheme& scheme) {
     palette.setColor(QPalette::Disabled, QPalette::Base, QColor(scheme.ground));
     palette.setColor(QPalette::Disabled, QPalette::Button, QColor(scheme.ground));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(scheme.line));
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, QColor(scheme.text));
     return palette;
 }
 

@@ -28,7 +28,7 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
             option->palette.setBrush(QPalette::Text, option->palette.brush(group, QPalette::ButtonText));
         return;
     }
-    // A told text colour says something about the row, so it stays while the row is selected.
+    // A text colour of its own says something about the row, so it stays while the row is selected.
     const QVariant told = index.data(Qt::ForegroundRole);
     if (told.isValid() && option->palette.color(QPalette::Highlight).lightness() > 128)
         option->palette.setColor(QPalette::HighlightedText, told.value<QColor>());

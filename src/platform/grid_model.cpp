@@ -36,7 +36,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::BackgroundRole && own.back.isValid()) return own.back;
     if (role == Qt::ForegroundRole) {
         if (own.fore.isValid()) return own.fore;
-        // A told colour is light: in a dark scheme the scheme's own light text could not be read on it.
+        // A cell's own colour is light: in a dark scheme the scheme's own light text could not be read on it.
         if (own.back.isValid()) return QColor(Qt::black);
     }
     if (role == Qt::FontRole && own.bold) {
@@ -162,6 +162,7 @@ void GridModel::clear() {
 }
 
 GridModel::Format GridModel::format(int row, int column) const {
+    at(row, column);
     const auto found = formats_.find(key(row, column));
     return found == formats_.end() ? Format() : found->second;
 }

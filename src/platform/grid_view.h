@@ -25,7 +25,7 @@ public:
     void set_fixed(int rows, int columns);
     int fixed_rows() const;
     int fixed_columns() const;
-    // Told colours of the heading row and of the fixed columns; without them they look as headings of the style.
+    // Colours of the heading row and of the fixed columns; without them they look as headings of the style.
     void set_fixed_colors(const QColor& back, const QColor& fore);
 
     int rows() const;

@@ -136,6 +136,10 @@ QString whole_picture(Money amount) {
 
 QString plain(double number) {
     if (number == 0 || !std::isfinite(number)) return QStringLiteral("0");
+    constexpr double whole_below = 1e15;
+    if (const auto whole = static_cast<std::int64_t>(std::abs(number) < whole_below ? number : 0);
+        static_cast<double>(whole) == number)
+        return QString::number(whole);
     char text[400];
     const auto result = std::to_chars(std::begin(text), std::end(text), number, std::chars_format::fixed);
     return QString::fromLatin1(text, result.ptr - text);

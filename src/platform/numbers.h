@@ -39,7 +39,8 @@ namespace turkish {
 
 QString upper(const QString& text);
 QString lower(const QString& text);
-// Capitals as a name box types them: i -> İ, ı -> I, every other letter by the general rule.
+// Capitals as a name box types them: i -> İ, ı -> I, every other letter by the general rule; a letter stays as it is
+// where its capital is not in the code page.
 QString capital(const QString& typed);
 QChar capital(QChar typed);
 

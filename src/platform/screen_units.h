@@ -1,4 +1,4 @@
-// Twips and blue-green-red colours of the told layouts in pixels and QColor.
+// The twips and blue-green-red colours of layouts in pixels and QColor.
 #pragma once
 
 #include <QColor>

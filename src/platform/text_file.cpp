@@ -43,12 +43,6 @@ QByteArray read_bytes(const QString& name) {
     return bytes;
 }
 
-void write_bytes(const QString& name, const QByteArray& bytes) {
-    QSaveFile file(paths::native(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        fail(name, QStringLiteral("yazılamadı: ") + cause(file));
-}
-
 // One item after the other off a line.
 class ItemReader {
 public:
@@ -102,6 +96,12 @@ QStringList read_lines(const QString& name) {
     return lines;
 }
 
+void write_bytes(const QString& name, const QByteArray& bytes) {
+    QSaveFile file(paths::native(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        fail(name, QStringLiteral("yazılamadı: ") + cause(file));
+}
+
 void write_lines(const QString& name, const QStringList& lines) {
     QString text;
     for (const QString& line : lines) text += line + QStringLiteral("\r\n");
@@ -114,11 +114,20 @@ void write_lines(const QString& name, const QStringList& lines) {
     write_bytes(name, bytes);
 }
 
-QStringList read_items(const QString& name) {
-    QStringList items;
-    for (const QString& line : read_lines(name))
-        for (ItemReader reader(line); reader.more();) items.append(reader.next());
+std::vector<Item> read_items_with_lines(const QString& name) {
+    std::vector<Item> items;
+    int number = 0;
+    for (const QString& line : read_lines(name)) {
+        ++number;
+        for (ItemReader reader(line); reader.more();) items.push_back({reader.next(), number});
+    }
     return items;
+}
+
+QStringList read_items(const QString& name) {
+    QStringList texts;
+    for (const Item& item : read_items_with_lines(name)) texts.append(item.text);
+    return texts;
 }
 
 QString quoted(const QString& text) {

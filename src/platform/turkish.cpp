@@ -159,14 +159,14 @@ QString lower(const QString& text) {
 
 QString capital(const QString& typed) {
     QString result = typed;
-    for (QChar& letter : result) letter = letter == u'i' ? QChar(u'İ') : letter.toUpper();
+    for (QChar& letter : result) letter = capital(letter);
     return result;
 }
 
-// A letter whose capital is more than one stays as it is.
+// A letter whose capital the code page does not hold, as µ, stays as it is.
 QChar capital(QChar typed) {
-    const QString letter = capital(QString(typed));
-    return letter.size() == 1 ? letter.front() : typed;
+    const QChar letter = typed == u'i' ? QChar(u'İ') : typed.toUpper();
+    return code_page::code_of(letter) < 0 ? typed : letter;
 }
 
 int compare(QStringView left, QStringView right) {

@@ -5,6 +5,7 @@
 #include "collections/posting.h"
 #include "collections/statement.h"
 #include "forms/kurvo.h"
+#include "platform/print_surface.h"
 #include "register/name_search.h"
 #include "register/record_window.h"
 #include "register/student_card.h"
@@ -32,6 +33,7 @@ public:
 
 private:
     CardFollowers followers();
+    void tell_file(const PrintSurface::Document& paper);
     void end();
 
     SessionContext session_;

@@ -65,6 +65,7 @@ void RecordForm::apply_rights() {
 }
 
 void RecordForm::ONO_LostFocus() {
+    form_.status({});
     kayitVar = seek_student();
     if (kayitVar)
         load_student();

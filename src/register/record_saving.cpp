@@ -56,12 +56,14 @@ void RecordSaving::CommandKAYDET_Click() {
     if (!normalise_telephones() || !fee_accepted) return;
     const WaitCursor wait;
     const double number = record_.number();
+    const QString saved = numbers::plain(number) + u' ' + form_.ADSOY->text().trimmed();
     ogrenci_yaz();
     if (!session_.remoteSchoolKey.isEmpty() && record_.published_values_differ()) 
         publish_(static_cast<std::int64_t>(number));
     screen_.list.listeyi_yenile();
     screen_.show_student(numbers::plain(number));
     record_.CommandTEMIZLE_Click();
+    form_.status(saved + QStringLiteral(" kaydedildi."));
 }
 
 bool RecordSaving::has_number() {

@@ -1,9 +1,10 @@
 #include "register/record_window.h"
 
 #include "fees/bus_service.h"
+#include "fees/contract.h"
 #include "fees/instalment_plan.h"
+#include "fees/promissory_notes.h"
 #include "platform/numbers.h"
-#include "platform/prompt.h"
 #include "platform/slots.h"
 #include "platform/wait_cursor.h"
 #include "register/deletion.h"
@@ -24,13 +25,11 @@ struct RecordWindow::Opening : QObject {
           bus(form, window.session_),
           record(form, window.session_, [this] { plan.taksit_listele(); }),
           saving(form, window.session_, record, window.screen_, window.publishing_.publish),
-          renumbering(window.screen_.kurvo, form, window.session_, window.screen_.list, window.screen_.card),
-          deletion(form, window.session_, record, window.screen_.list, window.publishing_.remove),
-          transfer(form, window.session_, record) {
-        for (QPushButton* button : {form.CommandYAZ, form.CommandSOZLESME, form.CommandSENET})
-            on(button, &QPushButton::clicked, this,
-               [] { prompt::tell(QStringLiteral("Bu belge henüz hazır değil.")); });
-    }
+          renumbering(form, window.session_, window.screen_),
+          deletion(form, window.session_, record, window.screen_, window.publishing_.remove),
+          transfer(form, window.session_, record),
+          notes(form, window.session_),
+          contract(form, window.session_) {}
 
     KurvoYeni form;
     InstalmentPlan plan;
@@ -40,6 +39,8 @@ struct RecordWindow::Opening : QObject {
     Renumbering renumbering;
     Deletion deletion;
     Transfer transfer;
+    PromissoryNotes notes;
+    Contract contract;
 };
 
 RecordWindow::RecordWindow(SessionContext& session, Terms& terms, MainScreen screen, Publishing publishing)

@@ -12,33 +12,85 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct IndexedTable {
+// A table that hangs on the student's number, and what stands behind the number in its key.
+struct KeyedTable {
     const char* table;
     const char* index;
+    std::vector<const char*> further_keys;
 };
 
-constexpr IndexedTable tables_in_order[] = {{"Odeme", "OVX"},      {"Devam", "OTDX"},   {"Dmazeret", "OTX"},
-                                            {"Etud", "OTSX"},      {"EtudDevam", "OTDX"}, {"Emazeret", "OTX"},
-                                            {"Tahsilat", "OVTX"}};
+const std::vector<KeyedTable>& tables_in_order() {
+    static const std::vector<KeyedTable> tables{{"Odeme", "OVX", {"VADE"}},
+                                                {"Devam", "OTDX", {"TARIH", "DKOD"}},
+                                                {"Dmazeret", "OTX", {"TARIH"}},
+                                                {"Etud", "OTSX", {"TARIH", "SAAT"}},
+                                                {"EtudDevam", "OTDX", {"TARIH", "DKOD"}},
+                                                {"Emazeret", "OTX", {"TARIH"}},
+                                                {"Tahsilat", "OVTX", {"VADE", "TARIH", "SAAT"}}};
+    return tables;
+}
 
 // The number that a text holds and nothing else; 0 where it is no student number.
 std::int64_t student_number(const QString& text) {
     constexpr qsizetype most_digits = 15;  // what a number field keeps exactly
     const QString digits = text.trimmed();
-    const bool valid = digits.size() <= most_digits && std::ranges::all_of(digits, [](QChar letter) {
-                           return letter >= u'0' && letter <= u'9';
-                       });
+    const bool valid = digits.size() <= most_digits &&
+                       std::ranges::all_of(digits, [](QChar letter) { return letter >= u'0' && letter <= u'9'; });
     return valid ? digits.toLongLong() : 0;
 }
 
-// Leaves the cursor on the student's first row.
-bool find_first(store::Recordset& rows, std::int64_t student) {
+using Key = std::vector<store::Value>;
+
+std::vector<Key> further_keys(store::Recordset& rows, const KeyedTable& table, std::int64_t student) {
+    std::vector<Key> keys;
+    store::scan_prefix(rows, {student}, [&] {
+        Key& key = keys.emplace_back();
+        for (const char* field : table.further_keys) key.push_back(rows[field].value());
+    });
+    return keys;
+}
+
+bool seek_row(store::Recordset& rows, std::int64_t student, const Key& further) {
+    switch (further.size()) {
+        case 1:
+            rows.Seek("=", {student, further[0]});
+            break;
+        case 2:
+            rows.Seek("=", {student, further[0], further[1]});
+            break;
+        default:
+            rows.Seek("=", {student, further.at(0), further.at(1), further.at(2)});
+    }
+    return !rows.NoMatch();
+}
+
+bool has_rows_of(store::Recordset& rows, std::int64_t student) {
     bool found = false;
     store::scan_prefix(rows, {student}, [&] {
         found = true;
         return false;
     });
     return found;
+}
+
+// Gives the rows of a student another number. A changed row leaves its place in the order, so its key is noted first;
+// what another workstation adds meanwhile comes over in the next turn.
+void move_rows(store::Database& term, const KeyedTable& table, std::int64_t from, std::int64_t to) {
+    store::Recordset rows = term.OpenRecordset(table.table);
+    rows.Index(table.index);
+    std::vector<Key> keys = further_keys(rows, table, from);
+    if (keys.empty()) return;
+    store::WriteScope scope(term);
+    for (; !keys.empty(); keys = further_keys(rows, table, from)) {
+        for (const Key& key : keys) {
+            if (!seek_row(rows, from, key)) continue;
+            rows.Edit();
+            rows["ONO"] = to;
+            rows.Update();
+            scope.pause_if_due();
+        }
+    }
+    scope.commit();
 }
 
 // The text with the new number in place of the old one that it begins with; null where it does not.
@@ -110,7 +162,7 @@ void Renumbering::refuse(const QString& words) {
 // row, so that it too is repaired when a renumbering that was cut is started again.
 void Renumbering::renumber(std::int64_t from, std::int64_t to) {
     session_.studentTable["ONO"].required();
-    for (const auto& [table, index] : tables_in_order) move_rows(table, index, from, to);
+    for (const KeyedTable& table : tables_in_order()) move_rows(session_.termDb, table, from, to);
     repair_cash_book(from, to);
     store::Recordset& students = session_.studentTable;
     students.Seek("=", {from});
@@ -119,27 +171,12 @@ void Renumbering::renumber(std::int64_t from, std::int64_t to) {
     students.Update();
 }
 
-// A changed row leaves the old number's rows, so the next one is always the first.
-void Renumbering::move_rows(std::string_view table, std::string_view index, std::int64_t from, std::int64_t to) {
-    store::Recordset rows = session_.termDb.OpenRecordset(table);
-    rows.Index(index);
-    if (!find_first(rows, from)) return;
-    store::WriteScope scope(session_.termDb);
-    while (find_first(rows, from)) {
-        rows.Edit();
-        rows["ONO"] = to;
-        rows.Update();
-        scope.pause_if_due();
-    }
-    scope.commit();
-}
-
 // A cash row names the student's number in front of its text. Only collections that came over to the new number lead
 // there, in this run or in an earlier one that was cut; without any the reference database stays closed.
 void Renumbering::repair_cash_book(std::int64_t from, std::int64_t to) {
     store::Recordset tahsilat = session_.termDb.OpenRecordset("Tahsilat");
     tahsilat.Index("OVTX");
-    if (!find_first(tahsilat, to)) return;
+    if (!has_rows_of(tahsilat, to)) return;
     store::Database reference = store::OpenDatabase(session_.reference_file());
     store::WriteScope scope(reference);
     store::Recordset kasa = reference.OpenRecordset("Kasa");

@@ -26,7 +26,6 @@ private:
     void refuse(const QString& words);
     void close_panel();
     void renumber(std::int64_t from, std::int64_t to);
-    void move_rows(std::string_view table, std::string_view index, std::int64_t from, std::int64_t to);
     void repair_cash_book(std::int64_t from, std::int64_t to);
     void show_renumbered(std::int64_t from, std::int64_t to);
 

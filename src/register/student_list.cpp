@@ -7,14 +7,11 @@
 #include "register/text_color.h"
 #include "session/parameter_files.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr unsigned active_heading = 0xC0FFFF;
 constexpr unsigned inactive_heading = 0xFFFFC0;
 constexpr int number_column = 1;
-constexpr int first_rows = 256;
 
 void mark_heading(Kurvo& kurvo, int column, bool active) {
     set_text_color(*kurvo.bslk[static_cast<std::size_t>(column)], active ? active_heading : inactive_heading);
@@ -37,13 +34,13 @@ void StudentList::ogrenci_listele() {
     const bool leave_out_hidden = session_.hideArchived == u"1";
     {
         const GridView::Filling filling(list);
-        const int expected = std::max(first_rows, list.rows());
         list.set_rows(0);
         list.clear();
+        list.set_rows(static_cast<int>(students.RecordCount()));
         int row = 0;
         store::scan_all(students, [&] {
             if (leave_out_hidden && students["SAKLA"].number() == 1) return;
-            if (row == list.rows()) list.set_rows(std::max(expected, 2 * row));
+            if (row == list.rows()) list.set_rows(row + 1);  // another workstation has added one meanwhile
             list.set_text(row, 0, students["SINIF"].text());
             list.set_text(row, number_column, students["ONO"].text());
             list.set_text(row, 2, students["ADSOY"].text());

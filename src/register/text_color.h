@@ -1,4 +1,4 @@
-// The told text colour of a label.
+// The text colour of a label as a blue-green-red number.
 #pragma once
 
 #include "platform/screen_units.h"

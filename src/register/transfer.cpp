@@ -52,9 +52,14 @@ void Transfer::CommandAL_Click() {
     form_.SBC->setFocus();
 }
 
+// A number that is left together with the panel is not looked up.
+bool Transfer::panel_is_left() const {
+    return !form_.Frame1->isAncestorOf(form_.focusWidget());
+}
+
 void Transfer::FONO_LostFocus() {
     const std::int64_t number = number_in(*form_.FONO);
-    if (number <= 0) return;
+    if (number <= 0 || panel_is_left()) return;
     SourceTerm source(session_.term_file(form_.SBC->currentText()));
     if (source.seek(number)) return form_.YFADSOY->setText(source.students()["ADSOY"].text());
     form_.YFADSOY->setText(u"Bu öğrenci bulunamadı."_s);
@@ -63,7 +68,7 @@ void Transfer::FONO_LostFocus() {
 
 void Transfer::YONO_LostFocus() {
     const std::int64_t number = number_in(*form_.YONO);
-    if (number <= 0) return;
+    if (number <= 0 || panel_is_left()) return;
     if (!is_taken(number)) return form_.YADSOY->clear();
     form_.YADSOY->setText(u"Bu öğrenci numarası kayıtlı."_s);
     form_.YONO->setFocus();

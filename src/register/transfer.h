@@ -23,6 +23,7 @@ private:
     void CommandAKTAR_Click();
     void CommandTVAZGEC_Click();
 
+    bool panel_is_left() const;
     bool is_taken(std::int64_t number);
     void clear_form();
     void take_over(std::int64_t number);

@@ -1,7 +1,7 @@
 // The small text files that an installer adjusts once, read at start-up into the session.
 //
-// A file of the wrong form throws std::runtime_error in Turkish that names the file, what is missing or wrong
-// and the item's number.
+// A file of the wrong form throws std::runtime_error in Turkish that names the file, the line, the item's number and
+// what is missing or wrong.
 #pragma once
 
 #include "session/context.h"
@@ -20,7 +20,8 @@ QStringList read_kasa_tip(const SessionContext& session);
 // and so without layout, where missing.
 void read_fatura(SessionContext& session);
 
-// c:\qlm\tak.txt: the state of the list and of the institution's name, into session.uiFlags; "11" where missing.
+// c:\qlm\tak.txt: the state of the list and of the institution's name, into session.uiFlags; "11" where
+// it is missing or empty.
 void read_tak(SessionContext& session);
 
 }  // namespace parameter_files

@@ -22,5 +22,6 @@ struct PrintSettings {
 
     // A layout item: one blank and the field's code, its line, its column and its second column.
     std::array<QString, layout_room> flbl, yy, xx, aa;
-    int layoutCount = 0;  // items in use, from index 0
+    int layoutCount = 0;                        // items in use, from index 0
+    std::array<int, layout_room> layoutLine{};  // line of the file that each of them stands on
 };

@@ -36,15 +36,6 @@ void sign_off() {
     if (!programs.NoMatch()) programs.Delete();
 }
 
-template <typename Act>
-void quietly(Act act) {
-    try {
-        act();
-    } catch (const std::exception&) {
-        // A row left behind is the launcher's to clean; the window closes all the same.
-    }
-}
-
 }  // namespace
 
 StartUp::StartUp(Kurvo& kurvo, SessionContext& session, Terms& terms, InstitutionFlag& institution_flag)
@@ -63,10 +54,10 @@ bool StartUp::run() {
     session_.listSortColumn = 1;
     terms_.open();
     terms_.donem_listele();
-    read_parameters_before_show();
+    parametre_oku_gosterimden_once();
 
     kurvo_.show();
-    read_parameters_after_show();
+    parametre_oku_gosterimden_sonra();
     set_up_panels(kurvo_);
     session_.reference = load_reference_lists(session_.reference_file(), !kurvo_.CommandETUD->isHidden());
     if (!session_.remoteSchoolKey.isEmpty())
@@ -81,14 +72,14 @@ bool StartUp::check_version() {
     return false;
 }
 
-void StartUp::read_parameters_before_show() {
+void StartUp::parametre_oku_gosterimden_once() {
     parameter_files::read_prmt(session_);
     kurvo_.ComboKASATIP->clear();
     kurvo_.ComboKASATIP->addItems(parameter_files::read_kasa_tip(session_));
     kurvo_.ComboKASATIP->setCurrentIndex(0);
 }
 
-void StartUp::read_parameters_after_show() {
+void StartUp::parametre_oku_gosterimden_sonra() {
     parameter_files::read_fatura(session_);
     parameter_files::read_tak(session_);
     emit flags_read();
@@ -98,6 +89,6 @@ void StartUp::read_parameters_after_show() {
 void StartUp::shut_down() {
     if (ended_) return;
     ended_ = true;
-    quietly([this] { terms_.close(); });
-    quietly(sign_off);
+    terms_.close();
+    sign_off();
 }

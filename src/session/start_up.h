@@ -20,8 +20,8 @@ public:
     // text that names the file on any failure.
     bool run();
 
-    // Closes the term and takes the program out of the launcher's list of running programs. Never throws: who
-    // closes the window is not held up. A second call does nothing.
+    // Closes the term and takes the program out of the launcher's list of running programs, where there is one.
+    // Throws when the list cannot be read or written; the term is closed then. A second call does nothing.
     void shut_down();
 
 signals:
@@ -30,8 +30,9 @@ signals:
 
 private:
     bool check_version();
-    void read_parameters_before_show();
-    void read_parameters_after_show();
+    // The parameter files, in two halves: the later ones are read with the form on the screen.
+    void parametre_oku_gosterimden_once();
+    void parametre_oku_gosterimden_sonra();
 
     Kurvo& kurvo_;
     SessionContext& session_;

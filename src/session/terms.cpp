@@ -54,6 +54,7 @@ void Terms::donem_listele() {
 void Terms::donem_degistir() {
     const WaitCursor wait;
     leave_student();
+    empty_search();
     close();
     session_.termCode = kurvo_.SDONEM->currentText();
     session_.listSortColumn = number_column;
@@ -65,7 +66,6 @@ void Terms::leave_student() {
     forget_student();
     empty_card();
     empty_collections();
-    empty_search();
 }
 
 void Terms::forget_student() {
@@ -96,4 +96,5 @@ void Terms::empty_collections() {
 void Terms::empty_search() {
     kurvo_.TABLO_SBUL->set_rows(0);
     kurvo_.TABLO_SBUL->clear();
+    kurvo_.FSBUL_msg->hide();  // it asks for a click on one of the hits
 }

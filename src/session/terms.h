@@ -28,7 +28,7 @@ public:
     // one already. A file that has vanished throws; no term is open then.
     void donem_degistir();
 
-    // Empties the card and all that is shown of its student: nobody is chosen then.
+    // Empties the card and all that is shown of its student: nobody is chosen then. The hits of the search stay.
     void leave_student();
 
 signals:

@@ -69,9 +69,11 @@ Value key_value(const Value& value, FieldType type) {
 }
 
 int compare_keys(const Value& left, const Value& right) {
-    if (left.is_null() || right.is_null()) return static_cast<int>(!left.is_null()) - static_cast<int>(!right.is_null());
+    if (left.is_null() || right.is_null())
+        return static_cast<int>(!left.is_null()) - static_cast<int>(!right.is_null());
     if (left.is_text() != right.is_text()) return left.is_text() ? 1 : -1;
-    if (const auto* text = std::get_if<QString>(&left.raw())) return turkish::compare(*text, std::get<QString>(right.raw()));
+    if (const auto* text = std::get_if<QString>(&left.raw()))
+        return turkish::compare(*text, std::get<QString>(right.raw()));
     const double a = left.number(), b = right.number();
     return a < b ? -1 : static_cast<int>(a > b);
 }

@@ -6,8 +6,12 @@
 
 namespace store {
 
-inline bool is_text(FieldType type) { return type == FieldType::text || type == FieldType::memo; }
-inline bool is_whole(FieldType type) { return type == FieldType::integer || type == FieldType::long_integer; }
+inline bool is_text(FieldType type) {
+    return type == FieldType::text || type == FieldType::memo;
+}
+inline bool is_whole(FieldType type) {
+    return type == FieldType::integer || type == FieldType::long_integer;
+}
 
 // For an assignment: a number becomes its plain text, a numeric text its number; a number for a whole field is
 // rounded to the nearest, halves to the even one. Null stays Null. Throws std::runtime_error naming table and field

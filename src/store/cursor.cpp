@@ -13,7 +13,8 @@ using Kind = ReadRequest::Kind;
 
 constexpr int first_batch = 32;
 constexpr int batch_after_write = 8;
-constexpr int largest_batch = 256;
+constexpr std::size_t most_values = 16384;  // of a batch that has grown
+constexpr std::size_t usual_width = 16;
 
 }  // namespace
 
@@ -21,7 +22,8 @@ Recordset::Cursor::Cursor(std::shared_ptr<Database::Session> session, std::strin
     : session_(std::move(session)),
       info_(session_->engine().table(table)),
       index_(&info_.index_at(0)),
-      writes_(&session_->writes_to(info_.definition().name)) {}
+      writes_(&session_->writes_to(info_.definition().name)),
+      followers_(info_.field_count(), 0) {}
 
 void Recordset::Cursor::misuse(QStringView what) const {
     throw messages::error(what, file(), info_.definition().name);
@@ -142,20 +144,27 @@ void Recordset::Cursor::move_next() {
 }
 
 void Recordset::Cursor::read_on() {
-    limit_ = is_fresh() ? std::min(limit_ * 4, largest_batch) : batch_after_write;
+    const int most_rows =
+        static_cast<int>(most_values / std::max<std::size_t>(batch_.projection->width(), usual_width));
+    limit_ = is_fresh() ? std::min(limit_ * 4, most_rows) : batch_after_write;
     if (leading_ && compare_keys(current_key(0), *leading_) != 0) leading_.reset();
     const std::vector<Value> keys = current_keys();
-    read(Kind::after, index_->range, keys, row());
+    const bool may_have_equals = !index_->unique || std::ranges::any_of(keys, &Value::is_null);
+    read(Kind::after, index_->range, keys, may_have_equals ? row() : ReadRequest::no_row);
     place_ = batch_.size() > 0 ? Place::on_row : Place::past_end;
 }
 
 void Recordset::Cursor::require_row() {
     settle();
     switch (place_) {
-        case Place::on_row: return;
-        case Place::on_deleted: misuse(u"Kayıt silindi, okunamaz");
-        case Place::past_end: misuse(u"Son kaydın ötesinde kayıt yok");
-        default: misuse(u"Aranan kayıt bulunmadı, okunamaz");
+        case Place::on_row:
+            return;
+        case Place::on_deleted:
+            misuse(u"Kayıt silindi, okunamaz");
+        case Place::past_end:
+            misuse(u"Son kaydın ötesinde kayıt yok");
+        default:
+            misuse(u"Aranan kayıt bulunmadı, okunamaz");
     }
 }
 
@@ -192,10 +201,15 @@ void Recordset::Cursor::refresh() {
     wide_.rows.clear();
 }
 
-int Recordset::Cursor::field_number(std::string_view name) const {
-    const int field = info_.field(name);
-    if (field < 0) misuse(QStringLiteral("Alan bulunamadı (") + messages::name(name) + u')');
-    return field;
+// Rows are read field by field in the same order: what followed this field in the last row is tried first.
+int Recordset::Cursor::field_number(std::string_view name) {
+    int& follower = followers_[static_cast<std::size_t>(last_field_)];
+    if (info_.definition().fields[static_cast<std::size_t>(follower)].name != name) {
+        const int field = info_.field(name);
+        if (field < 0) misuse(QStringLiteral("Alan bulunamadı (") + messages::name(name) + u')');
+        follower = field;
+    }
+    return last_field_ = follower;
 }
 
 const Value& Recordset::Cursor::value(int field) {

@@ -25,7 +25,7 @@ struct Recordset::Cursor {
     void move_next();
     void move_last();
 
-    int field_number(std::string_view name) const;
+    int field_number(std::string_view name);
     const Value& value(int field);
     void assign(int field, const Value& value);
     const TableInfo& info() const { return info_; }
@@ -51,15 +51,15 @@ private:
     void read_on();
     bool is_fresh() const { return stamp_ == *writes_; }
     void move_first_or_end();
-    void settle();          // reads the first row if the cursor waits in front of it
-    void require_row();     // settles; fails where no row stands
+    void settle();       // reads the first row if the cursor waits in front of it
+    void require_row();  // settles; fails where no row stands
     void require_no_edit() const;
-    void refresh();         // reads the current row anew
+    void refresh();  // reads the current row anew
     const Value& value_of_wide_row(int field);
     RowId row() const { return batch_.rows[at_]; }
     const Value& current_key(std::size_t key) const;
     std::vector<Value> current_keys() const;
-    EditLock lock_row();    // under the lock: the row is there and still has its key
+    EditLock lock_row();  // under the lock: the row is there and still has its key
     bool read_row(Batch& result, const ProjectionPtr& columns);
     bool changes_key(const EditBuffer& edit) const;
     [[noreturn]] void misuse(QStringView what) const;
@@ -73,11 +73,13 @@ private:
     Place place_ = Place::at_first;
     Batch batch_;
     std::size_t at_ = 0;
-    std::uint64_t stamp_ = 0;       // *writes_ when the batch was read
-    int limit_ = 0;                 // rows of the batch
-    bool too_narrow_ = false;       // the batch lacks a field that was asked for
-    FieldUse* use_ = nullptr;       // who learns from reading the batch
-    Batch wide_;                    // the current row with all fields, if it was needed
+    std::uint64_t stamp_ = 0;     // *writes_ when the batch was read
+    int limit_ = 0;               // rows of the batch
+    bool too_narrow_ = false;     // the batch lacks a field that was asked for
+    FieldUse* use_ = nullptr;     // who learns from reading the batch
+    std::vector<int> followers_;  // the field that was asked for behind each field
+    int last_field_ = 0;          // that was asked for
+    Batch wide_;                  // the current row with all fields, if it was needed
     std::vector<Value> seek_keys_;
     std::optional<Value> leading_;  // of the rows that the reader is after
     std::optional<EditBuffer> edit_;

@@ -41,7 +41,9 @@ Database::~Database() {
     if (session_) session_->close();
 }
 
-bool Database::is_open() const { return session_ != nullptr; }
+bool Database::is_open() const {
+    return session_ != nullptr;
+}
 
 void Database::Close() {
     require_open(session_);
@@ -61,7 +63,9 @@ void Database::CreateTable(const TableDef& table) {
     lock.done();
 }
 
-std::vector<TableDef> Database::tables() const { return require_open(session_).engine().tables(); }
+std::vector<TableDef> Database::tables() const {
+    return require_open(session_).engine().tables();
+}
 
 Database OpenDatabase(const QString& path) {
     Database database;

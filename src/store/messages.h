@@ -12,9 +12,13 @@
 
 namespace messages {
 
-inline QString name(std::string_view utf8) { return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); }
+inline QString name(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
 
-inline std::runtime_error error(const QString& text) { return std::runtime_error(text.toStdString()); }
+inline std::runtime_error error(const QString& text) {
+    return std::runtime_error(text.toStdString());
+}
 
 // "TEXT: FILE" or "TEXT: FILE, tablo TABLE".
 inline QString about(QStringView text, const QString& file, std::string_view table = {}) {

@@ -10,9 +10,12 @@ public:
     const char* name() const noexcept override { return "kayıt deposu"; }
     std::string message(int code) const override {
         switch (static_cast<Errc>(code)) {
-            case Errc::duplicate_key: return "Aynı anahtarla bir kayıt zaten var";
-            case Errc::locked: return "Dosya başka bir iş istasyonu tarafından kilitli";
-            case Errc::row_gone: return "Kayıt bu arada başka bir iş istasyonunca silinmiş ya da taşınmış";
+            case Errc::duplicate_key:
+                return "Aynı anahtarla bir kayıt zaten var";
+            case Errc::locked:
+                return "Dosya başka bir iş istasyonu tarafından kilitli";
+            case Errc::row_gone:
+                return "Kayıt bu arada başka bir iş istasyonunca silinmiş ya da taşınmış";
         }
         return "Bilinmeyen hata";
     }
@@ -36,32 +39,68 @@ Recordset::Cursor& Recordset::cursor() const {
     return *cursor_;
 }
 
-void Recordset::Index(std::string_view name) { cursor().set_index(name); }
+void Recordset::Index(std::string_view name) {
+    cursor().set_index(name);
+}
 void Recordset::Seek(std::string_view comparison, std::initializer_list<Value> keys) {
     cursor().seek(comparison, {keys.begin(), keys.size()});
 }
-bool Recordset::NoMatch() const { return cursor().no_match(); }
-bool Recordset::Eof() const { return cursor().at_end(); }
-std::int64_t Recordset::RecordCount() const { return cursor().record_count(); }
-bool Recordset::has_rows() const { return cursor().has_rows(); }
-void Recordset::MoveFirst() { cursor().move_first(); }
-void Recordset::MoveNext() { cursor().move_next(); }
-void Recordset::MoveLast() { cursor().move_last(); }
-Field Recordset::operator[](std::string_view name) { return Field(*this, cursor().field_number(name)); }
-const TableDef& Recordset::definition() const { return cursor().info().definition(); }
-void Recordset::Edit() { cursor().edit(); }
-void Recordset::AddNew() { cursor().add_new(); }
-void Recordset::Update() { cursor().update(); }
-void Recordset::CancelUpdate() { cursor().cancel_update(); }
-void Recordset::Delete() { cursor().erase(); }
-bool Recordset::is_open() const { return cursor_ != nullptr && cursor_->is_open(); }
+bool Recordset::NoMatch() const {
+    return cursor().no_match();
+}
+bool Recordset::Eof() const {
+    return cursor().at_end();
+}
+std::int64_t Recordset::RecordCount() const {
+    return cursor().record_count();
+}
+bool Recordset::has_rows() const {
+    return cursor().has_rows();
+}
+void Recordset::MoveFirst() {
+    cursor().move_first();
+}
+void Recordset::MoveNext() {
+    cursor().move_next();
+}
+void Recordset::MoveLast() {
+    cursor().move_last();
+}
+Field Recordset::operator[](std::string_view name) {
+    return Field(*this, cursor().field_number(name));
+}
+const TableDef& Recordset::definition() const {
+    return cursor().info().definition();
+}
+void Recordset::Edit() {
+    cursor().edit();
+}
+void Recordset::AddNew() {
+    cursor().add_new();
+}
+void Recordset::Update() {
+    cursor().update();
+}
+void Recordset::CancelUpdate() {
+    cursor().cancel_update();
+}
+void Recordset::Delete() {
+    cursor().erase();
+}
+bool Recordset::is_open() const {
+    return cursor_ != nullptr && cursor_->is_open();
+}
 void Recordset::Close() {
     cursor();
     cursor_.reset();
 }
 
-const Value& Field::value() const { return owner_.cursor().value(field_); }
-void Field::operator=(const Value& value) { owner_.cursor().assign(field_, value); }
+const Value& Field::value() const {
+    return owner_.cursor().value(field_);
+}
+void Field::operator=(const Value& value) {
+    owner_.cursor().assign(field_, value);
+}
 const Value& Field::required() const {
     const Value& found = value();
     if (found.is_null()) {

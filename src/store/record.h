@@ -21,7 +21,9 @@ namespace store {
 
 enum class Errc { duplicate_key = 1, locked, row_gone };
 const std::error_category& category();
-inline std::error_code make_error_code(Errc code) { return {static_cast<int>(code), category()}; }
+inline std::error_code make_error_code(Errc code) {
+    return {static_cast<int>(code), category()};
+}
 
 class Recordset;
 
@@ -66,10 +68,10 @@ void create_file(const QString& path, const std::vector<TableDef>& tables);
 class Field {
 public:
     const Value& value() const;
-    QString text() const { return value().text(); }       // Null is an empty text
-    double number() const { return value().number(); }    // Null is 0
+    QString text() const { return value().text(); }     // Null is an empty text
+    double number() const { return value().number(); }  // Null is 0
     std::int64_t whole_number() const { return value().whole_number(); }
-    const Value& required() const;                        // throws on Null, naming the field
+    const Value& required() const;  // throws on Null, naming the field
     // Legal between Edit or AddNew and Update only; converts to the field's type.
     void operator=(const Value& value);
     void operator=(const Field& other) { *this = other.value(); }

@@ -95,8 +95,7 @@ void Database::Session::tell_readers() noexcept {
 }
 
 void Database::Session::begin_scope() {
-    if (scoped_ || edits_ > 0)
-        throw messages::error(u"Açık bir yazma varken yeni bir toplu yazma başlatılamaz", name_);
+    if (scoped_ || edits_ > 0) throw messages::error(u"Açık bir yazma varken yeni bir toplu yazma başlatılamaz", name_);
     begin({});
     scoped_ = true;
 }

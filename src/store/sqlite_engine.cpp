@@ -21,7 +21,8 @@ constexpr auto longest_wait = std::chrono::seconds(5);
 constexpr auto poll_interval = std::chrono::milliseconds(2);
 
 int collate(void*, int left_size, const void* left, int right_size, const void* right) {
-    return turkish::compare_utf8(static_cast<const char*>(left), left_size, static_cast<const char*>(right), right_size);
+    return turkish::compare_utf8(static_cast<const char*>(left), left_size, static_cast<const char*>(right),
+                                 right_size);
 }
 
 std::uint16_t null_mask(std::span<const Value> keys) {
@@ -62,19 +63,25 @@ void SqliteEngine::fail(int code, std::string_view table) const {
     if (code == SQLITE_CONSTRAINT_UNIQUE) throw messages::outcome(Errc::duplicate_key, name_, table);
     switch (code & 0xFF) {
         case SQLITE_BUSY:
-        case SQLITE_LOCKED: throw messages::outcome(Errc::locked, name_, table);
-        case SQLITE_FULL: throw messages::error(u"Disk dolu, yazılamadı", name_, table);
+        case SQLITE_LOCKED:
+            throw messages::outcome(Errc::locked, name_, table);
+        case SQLITE_FULL:
+            throw messages::error(u"Disk dolu, yazılamadı", name_, table);
         case SQLITE_READONLY:
         case SQLITE_PERM:
-        case SQLITE_CANTOPEN: throw messages::error(u"Dosyaya yazma izni yok", name_, table);
-        case SQLITE_IOERR: throw messages::error(u"Dosya okunurken ya da yazılırken aygıt hatası", name_, table);
+        case SQLITE_CANTOPEN:
+            throw messages::error(u"Dosyaya yazma izni yok", name_, table);
+        case SQLITE_IOERR:
+            throw messages::error(u"Dosya okunurken ya da yazılırken aygıt hatası", name_, table);
         case SQLITE_CORRUPT:
-        case SQLITE_NOTADB: throw messages::error(u"Dosya bozuk", name_, table);
-        case SQLITE_NOMEM: throw std::bad_alloc();
+        case SQLITE_NOTADB:
+            throw messages::error(u"Dosya bozuk", name_, table);
+        case SQLITE_NOMEM:
+            throw std::bad_alloc();
         default:
-            throw messages::error(u"Veritabanı hatası", name_ + QStringLiteral(" (") + messages::name(sqlite3_errstr(code)) +
-                                                            QStringLiteral(": ") +
-                                                            messages::name(sqlite3_errmsg(connection_.get())) + u')',
+            throw messages::error(u"Veritabanı hatası",
+                                  name_ + QStringLiteral(" (") + messages::name(sqlite3_errstr(code)) +
+                                      QStringLiteral(": ") + messages::name(sqlite3_errmsg(connection_.get())) + u')',
                                   table);
     }
 }
@@ -118,10 +125,17 @@ void SqliteEngine::read_rows(const ReadRequest& request, Batch& result) {
     const int keys = static_cast<int>(request.keys.size());
     ReadShape shape{Form::all, request.index, keys, null_mask(request.keys)};
     switch (request.kind) {
-        case ReadRequest::Kind::first: break;
-        case ReadRequest::Kind::last: shape.form = Form::descending; break;
-        case ReadRequest::Kind::row: shape.form = Form::row; break;
-        case ReadRequest::Kind::equal: shape.form = Form::equal; break;
+        case ReadRequest::Kind::first:
+            break;
+        case ReadRequest::Kind::last:
+            shape.form = Form::descending;
+            break;
+        case ReadRequest::Kind::row:
+            shape.form = Form::row;
+            break;
+        case ReadRequest::Kind::equal:
+            shape.form = Form::equal;
+            break;
         case ReadRequest::Kind::after:
             if (keys == 0)
                 shape.form = Form::equal_later_row;
@@ -157,7 +171,7 @@ bool SqliteEngine::take_rows(SqliteStatement& statement, const ReadRequest& requ
         request.leading ? request.columns->slot_of(request.table.index_at(request.index).fields.front()) : -1;
     while (statement.step()) {
         result.rows.push_back(statement.whole(0));
-        for (int column = 1; column <= width; ++column) result.values.push_back(statement.value(column));
+        for (int column = 1; column <= width; ++column) result.values.push_back(statement.value(column, texts_));
         const std::size_t last = result.size() - 1;
         if (result.size() >= static_cast<std::size_t>(request.limit)) return false;
         if (request.leading && compare_keys(result.at(last, leading_slot), *request.leading) != 0) return false;

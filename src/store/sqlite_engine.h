@@ -67,6 +67,7 @@ private:
     std::unordered_map<std::uint64_t, SqliteStatement> reads_;
     std::unordered_map<std::string, SqliteStatement> statements_;
     std::unordered_map<std::string, TableInfo*> tables_;
+    ShortTexts texts_;
     std::chrono::steady_clock::time_point waiting_since_;
 };
 

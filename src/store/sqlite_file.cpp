@@ -38,8 +38,7 @@ Header read_header(sqlite3* connection, const QString& name) {
     sqlite3_file* const file = file_of(connection);
     Header header{};
     sqlite3_int64 size = 0;
-    if (!file || file->pMethods->xFileSize(file, &size) != SQLITE_OK)
-        throw messages::error(u"Dosya okunamıyor", name);
+    if (!file || file->pMethods->xFileSize(file, &size) != SQLITE_OK) throw messages::error(u"Dosya okunamıyor", name);
     if (size == 0) throw messages::error(u"Dosya boş, bir veritabanı değil", name);
     const int code = file->pMethods->xRead(file, header.data(), static_cast<int>(header.size()), 0);
     if (code != SQLITE_OK && code != SQLITE_IOERR_SHORT_READ) throw messages::error(u"Dosya okunamıyor", name);
@@ -69,8 +68,7 @@ void SqliteEngine::check_header() {
             name_);
     if (!begins_with(header, 0, std::string_view("SQLite format 3\0", 16)))
         throw messages::error(u"Dosya bir veritabanı olarak tanınmıyor; şifreli ya da bozuk olabilir", name_);
-    if (big_endian(header, 68) != application_id)
-        throw messages::error(u"Dosya başka bir programın veritabanı", name_);
+    if (big_endian(header, 68) != application_id) throw messages::error(u"Dosya başka bir programın veritabanı", name_);
     if (big_endian(header, 60) > format_version)
         throw messages::error(u"Dosya programın daha yeni bir sürümüyle yapılmış", name_);
     // A write-ahead log is unsafe on a shared folder.

@@ -49,12 +49,15 @@ std::string where(std::vector<std::string> names, const ReadShape& shape) {
     names.resize(static_cast<std::size_t>(shape.keys));
     switch (shape.form) {
         case Form::all:
-        case Form::descending: return {};
-        case Form::row: return " WHERE rowid=?";
+        case Form::descending:
+            return {};
+        case Form::row:
+            return " WHERE rowid=?";
         case Form::tuple:
         case Form::tuple_or_later_row:
             return " WHERE " + tuple_condition(std::move(names), shape.form == Form::tuple_or_later_row);
-        default: return " WHERE " + condition(names, shape);
+        default:
+            return " WHERE " + condition(names, shape);
     }
 }
 

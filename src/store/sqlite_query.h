@@ -11,15 +11,15 @@ namespace store {
 // The condition of a read: the leading `keys` fields compared as `form` says; Null keys are marked in `nulls`.
 struct ReadShape {
     enum class Form : std::uint8_t {
-        all,               // every row
-        descending,        // every row, last first
-        equal,             // keys equal
-        greater,           // the last key greater, those before it equal
-        behind_null,       // the last key is not Null, those before it equal
-        equal_later_row,   // keys equal, entered later than a row
-        tuple,             // keys greater, compared as one; none is Null
+        all,                 // every row
+        descending,          // every row, last first
+        equal,               // keys equal
+        greater,             // the last key greater, those before it equal
+        behind_null,         // the last key is not Null, those before it equal
+        equal_later_row,     // keys equal, entered later than a row
+        tuple,               // keys greater, compared as one; none is Null
         tuple_or_later_row,  // the same, or keys equal and entered later than a row
-        row,               // one row by its id
+        row,                 // one row by its id
     };
     Form form;
     int index = 0;

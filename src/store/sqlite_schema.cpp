@@ -12,11 +12,16 @@ namespace {
 
 std::string column_type(const FieldDef& field) {
     switch (field.type) {
-        case FieldType::text: return field.size > 0 ? "TEXT(" + std::to_string(field.size) + ")" : "TEXT";
-        case FieldType::memo: return "MEMO TEXT";
-        case FieldType::integer: return "SMALLINT";
-        case FieldType::long_integer: return "INTEGER";
-        case FieldType::number: return "REAL";
+        case FieldType::text:
+            return field.size > 0 ? "TEXT(" + std::to_string(field.size) + ")" : "TEXT";
+        case FieldType::memo:
+            return "MEMO TEXT";
+        case FieldType::integer:
+            return "SMALLINT";
+        case FieldType::long_integer:
+            return "INTEGER";
+        case FieldType::number:
+            return "REAL";
     }
     return {};
 }

@@ -53,15 +53,18 @@ void SqliteStatement::run() {
     }
 }
 
-Value SqliteStatement::value(int column) const {
+Value SqliteStatement::value(int column, ShortTexts& texts) const {
     sqlite3_stmt* row = statement_.get();
     switch (sqlite3_column_type(row, column)) {
-        case SQLITE_INTEGER: return sqlite3_column_int64(row, column);
-        case SQLITE_FLOAT: return sqlite3_column_double(row, column);
-        case SQLITE_NULL: return {};
+        case SQLITE_INTEGER:
+            return sqlite3_column_int64(row, column);
+        case SQLITE_FLOAT:
+            return sqlite3_column_double(row, column);
+        case SQLITE_NULL:
+            return {};
         default: {
             const auto* utf8 = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
-            return QString::fromUtf8(utf8, sqlite3_column_bytes(row, column));
+            return texts.of({utf8, static_cast<std::size_t>(sqlite3_column_bytes(row, column))});
         }
     }
 }

@@ -1,6 +1,7 @@
 // A connection and a prepared statement of SQLite, owned.
 #pragma once
 
+#include "store/short_texts.h"
 #include "store/value.h"
 
 #include <sqlite3.h>
@@ -34,7 +35,7 @@ public:
     // Steps to the end; for statements whose rows nobody reads.
     void run();
 
-    Value value(int column) const;
+    Value value(int column, ShortTexts& texts) const;
     std::int64_t whole(int column) const { return sqlite3_column_int64(statement_.get(), column); }
     std::string text(int column) const;
 

@@ -53,7 +53,8 @@ void FieldUse::rebuild() {
 
 TableInfo::TableInfo(TableDef definition)
     : definition_(std::move(definition)),
-      all_fields_(std::make_shared<const Projection>(first_numbers(definition_.fields.size()), definition_.fields.size())),
+      all_fields_(
+          std::make_shared<const Projection>(first_numbers(definition_.fields.size()), definition_.fields.size())),
       id_(next_id()) {
     for (std::size_t i = 0; i < definition_.fields.size(); ++i)
         by_name_.emplace(definition_.fields[i].name, static_cast<int>(i));

@@ -7,8 +7,7 @@
 
 namespace store {
 
-QString Value::text() const {
-    if (const auto* text = std::get_if<QString>(&value_)) return *text;
+QString Value::text_of_number() const {
     if (const auto* whole = std::get_if<std::int64_t>(&value_)) return QString::number(*whole);
     if (const auto* number = std::get_if<double>(&value_)) return numbers::plain(*number);
     return {};

@@ -27,7 +27,10 @@ public:
     bool is_number() const { return !is_null() && !is_text(); }
 
     // For display: Null is an empty text, a number its plain decimal text with a point.
-    QString text() const;
+    QString text() const {
+        const QString* text = std::get_if<QString>(&value_);
+        return text != nullptr ? *text : text_of_number();
+    }
     // A number, or the numeric prefix of a text; Null is 0.
     double number() const;
     std::int64_t whole_number() const;  // number(), toward zero; the nearest end where 64 bits are too few
@@ -39,6 +42,8 @@ public:
     const std::variant<std::monostate, std::int64_t, double, QString>& raw() const { return value_; }
 
 private:
+    QString text_of_number() const;
+
     std::variant<std::monostate, std::int64_t, double, QString> value_;
 };
 

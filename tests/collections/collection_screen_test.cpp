@@ -159,6 +159,24 @@ void CollectionScreenTest::second_stage_holds_the_student() {
     till.press(till.kurvo.CommandGERI);
     QCOMPARE(enabled(held), before);
     QVERIFY(till.kurvo.CommandTAHSIL->isVisible() && !till.kurvo.CommandOK->isVisible());
+    // Not SDONEM, where the next arrow key would change the term.
+    QVERIFY(till.kurvo.FTahsil_Tablo2->hasFocus());
+}
+
+// The button that posts takes the place of the one that leads there, right under the pointer.
+void CollectionScreenTest::double_click_posts_nothing() {
+    const School school;
+    three_instalments();
+    Till till;
+    till.pick();
+    till.type_amount("1200");
+    const QPoint at = till.kurvo.CommandTAHSIL->mapTo(&till.kurvo, till.kurvo.CommandTAHSIL->rect().center());
+    QTest::mouseDClick(till.kurvo.windowHandle(), Qt::LeftButton, {}, at);
+    QVERIFY(till.kurvo.FTahsil_Frame1->isVisible());
+    QVERIFY(till.kurvo.CommandOK->geometry().contains(till.kurvo.CommandOK->parentWidget()->mapFrom(&till.kurvo, at)));
+    QCOMPARE(School::tahsilat(), QStringList());
+    QTest::mouseClick(till.kurvo.windowHandle(), Qt::LeftButton, {}, at);
+    QCOMPARE(School::tahsilat().size(), 2);
 }
 
 void CollectionScreenTest::corrections_and_the_way_back() {
@@ -169,6 +187,8 @@ void CollectionScreenTest::corrections_and_the_way_back() {
     till.click_row(0);
     till.click_row(2);
     till.begin_second_stage();
+    till.correct(2, {});  // the cell's text as it stands
+    QCOMPARE(till.kurvo.Cel_In->text(), "1250");
     till.correct(2, "12000");  // clipped to 1.250 at the fifth key
     QCOMPARE(till.kurvo.Cel_In->text(), "1.250");
     till.correct(1, "400");

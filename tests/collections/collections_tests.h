@@ -25,6 +25,7 @@ private slots:
     void odd_debts_end();
     void other_cash_types_are_typed_by_the_clerk();
     void second_stage_holds_the_student();
+    void double_click_posts_nothing();
     void corrections_and_the_way_back();
     void corrections_spread_again_after_typing();
     void documents_propose_the_next_number();
@@ -57,4 +58,19 @@ class ReceiptTest : public QObject {
 private slots:
     void two_copies_on_one_sheet();
     void last_payment_says_thanks();
+};
+
+class InvoiceTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void letters_of_the_printer();
+    void tax_data();
+    void tax();
+    void lines_follow_the_layout_data();
+    void lines_follow_the_layout();
+    void matrix_invoice_is_a_file();
+    void laser_invoice_is_a_sheet_a_copy();
+    void nothing_is_printed_data();
+    void nothing_is_printed();
 };

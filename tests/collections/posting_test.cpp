@@ -83,7 +83,7 @@ void PostingTest::documents_data() {
     QTest::addColumn<QStringList>("series");
     QTest::addColumn<QString>("document");  // BTIP, BNO, FTAR, FNO
     QTest::addColumn<QString>("prompt");
-    const QString none = " | | | ", proposed, empty = "", plan = "Ödeme planı bu sürümde henüz basılamıyor";
+    const QString none = " | | | ", proposed, empty = "", plan = "ödeme planı bu sürümde henüz basılamıyor";
     QTest::newRow("receipt") << "MOP" << proposed << QStringList("M|41") << "M|41| | "
                              << "";
     QTest::newRow("receipt, by hand") << "MOP"
@@ -91,7 +91,7 @@ void PostingTest::documents_data() {
                                       << "";
     QTest::newRow("receipt, no number") << "MOP" << empty << QStringList("M|0") << none << "";
     QTest::newRow("invoice") << "FOP" << proposed << QStringList({"F|1", "M|40"}) << "F|1|20261005|1"
-                             << "Fatura bu sürümde henüz basılamıyor";
+                             << "fatura bu sürümde henüz basılamıyor";
     QTest::newRow("plan") << "DOP" << proposed << QStringList("M|40") << none << plan;
     QTest::newRow("plan, number") << "DOP"
                                   << "77" << QStringList("M|40") << "F|77|20261005|77" << plan;

@@ -1,19 +1,9 @@
 #include "fees/amount_in_words.h"
 
 #include "fees/payment_forms.h"
-#include "support/run_all.h"
+#include "fees_tests.h"
 
-class AmountInWordsTest : public QObject {
-    Q_OBJECT
-
-private slots:
-    void words_data();
-    void words();
-    void words_of_a_text_data();
-    void words_of_a_text();
-    void payment_forms_by_number_data();
-    void payment_forms_by_number();
-};
+#include <QTest>
 
 void AmountInWordsTest::words_data() {
     QTest::addColumn<qint64>("amount");
@@ -88,6 +78,3 @@ void AmountInWordsTest::payment_forms_by_number() {
     QTEST(payment_form(odsek), "expected");
     QCOMPARE(payment_form(store::Value()), QString());
 }
-
-KURVO_TEST_MAIN(AmountInWordsTest)
-#include "amount_in_words_test.moc"

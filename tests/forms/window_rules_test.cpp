@@ -3,14 +3,13 @@
 #include "platform/control_events.h"
 #include "platform/date_picker.h"
 #include "platform/grid_view.h"
-#include "window_rules_tests.h"
+#include "support/run_all.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
@@ -52,135 +51,127 @@ private:
 
 }  // namespace
 
-void WindowRulesTest::enter_presses_from_one_line_controls() {
-    Form form;
-    QLineEdit late;
-    QComboBox free_text;
-    free_text.setEditable(true);
-    QCheckBox check("Kurum adı");
-    form.add(late), form.add(free_text), form.add(check);
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    for (QWidget* control :
-         {static_cast<QWidget*>(&form.box), static_cast<QWidget*>(&form.kind), static_cast<QWidget*>(&form.day),
-          static_cast<QWidget*>(&late), static_cast<QWidget*>(&free_text), static_cast<QWidget*>(&check)})
-        QVERIFY2(form.presses_from(*control), control->metaObject()->className());
+class WindowRulesTest : public QObject {
+    Q_OBJECT
 
-    bool seen = false;
-    control_events::on_key_press(&form.box, [&](QChar key) {
-        seen = true;
-        return key;
-    });
-    QVERIFY(form.presses_from(form.box));
-    QVERIFY(!seen);
-    // A held key does not post twice.
-    QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    const int before = form.presses;
-    QCoreApplication::sendEvent(&form.box, &again);
-    QCOMPARE(form.presses, before);
-}
+private slots:
+    void enter_presses_from_one_line_controls() {
+        Form form;
+        QLineEdit late;
+        QComboBox free_text;
+        free_text.setEditable(true);
+        QCheckBox check("Kurum adı");
+        form.add(late), form.add(free_text), form.add(check);
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        for (QWidget* control :
+             std::initializer_list<QWidget*>{&form.box, &form.kind, &form.day, &late, &free_text, &check})
+            QVERIFY2(form.presses_from(*control), control->metaObject()->className());
 
-void WindowRulesTest::other_controls_keep_enter() {
-    Form form;
-    QTextEdit text;
-    GridView grid;
-    grid.set_widths({1000});
-    grid.set_rows(2);
-    grid.set_current(1, 0);
-    form.add(text), form.add(grid);
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    QVERIFY(!form.presses_from(text));
-    QCOMPARE(text.toPlainText(), "\n");
-    QSignalSpy clicked(&grid, &GridView::cell_clicked), deleted(&form.other, &QPushButton::clicked);
-    QVERIFY(!form.presses_from(grid));
-    QCOMPARE(clicked.count(), 1);
-    QVERIFY(!form.presses_from(form.other));
-    QCOMPARE(deleted.count(), 1);
+        bool seen = false;
+        control_events::on_key_press(&form.box, [&](QChar key) {
+            seen = true;
+            return key;
+        });
+        QVERIFY(form.presses_from(form.box));
+        QVERIFY(!seen);
+        // A held key does not post twice.
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+        const int before = form.presses;
+        QCoreApplication::sendEvent(&form.box, &again);
+        QCOMPARE(form.presses, before);
+    }
 
-    QWidget elsewhere;
-    QLineEdit far(&elsewhere);
-    elsewhere.show();
-    QVERIFY(!form.presses_from(far));
-}
+    void other_controls_keep_enter() {
+        Form form;
+        QTextEdit text;
+        GridView grid;
+        grid.set_widths({1000});
+        grid.set_rows(2);
+        grid.set_current(1, 0);
+        form.add(text), form.add(grid);
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        QSignalSpy clicked(&grid, &GridView::cell_clicked), deleted(&form.other, &QPushButton::clicked),
+            entered(&form.box, &QLineEdit::returnPressed);
+        QVERIFY(!form.presses_from(text) && !form.presses_from(grid) && !form.presses_from(form.other));
+        QCOMPARE(text.toPlainText(), "\n");
+        QCOMPARE(clicked.count() + deleted.count(), 2);
 
-void WindowRulesTest::key_goes_to_the_control_without_a_button() {
-    Form form;
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    QSignalSpy entered(&form.box, &QLineEdit::returnPressed);
-    form.save.setEnabled(false);
-    QVERIFY(!form.presses_from(form.box));
-    form.save.setEnabled(true);
-    form.save.hide();
-    QVERIFY(!form.presses_from(form.box));
-    form.save.show();
-    form.set_default_button(nullptr);
-    QVERIFY(!form.presses_from(form.box));
-    QCOMPARE(entered.count(), 3);
-}
+        form.save.setEnabled(false);
+        QVERIFY(!form.presses_from(form.box));
+        form.save.setEnabled(true);
+        form.save.hide();
+        QVERIFY(!form.presses_from(form.box));
+        form.save.show();
+        form.set_default_button(nullptr);
+        QVERIFY(!form.presses_from(form.box));
+        QCOMPARE(entered.count(), 3);
+    }
 
-void WindowRulesTest::open_list_chooses_its_entry() {
-    Form form;
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    form.kind.setFocus();
-    form.kind.showPopup();
-    QTRY_VERIFY(form.kind.view()->isVisible());
-    QTest::keyClick(form.kind.view(), Qt::Key_Down);
-    QTest::keyClick(form.kind.view(), Qt::Key_Return);
-    QTRY_VERIFY(!form.kind.view()->isVisible());
-    QCOMPARE(form.kind.currentText(), "USD");
-    QCOMPARE(form.presses, 0);
-}
+    void open_list_and_date_are_taken_first() {
+        Form form;
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        form.kind.setFocus();
+        form.kind.showPopup();
+        QTRY_VERIFY(form.kind.view()->isVisible());
+        QTest::keyClick(form.kind.view(), Qt::Key_Down);
+        QTest::keyClick(form.kind.view(), Qt::Key_Return);
+        QTRY_VERIFY(!form.kind.view()->isVisible());
+        QCOMPARE(form.kind.currentText(), "USD");
+        QCOMPARE(form.presses, 0);
 
-void WindowRulesTest::date_is_taken_first() {
-    Form form;
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    form.day.set_key("20260115");
-    form.day.setFocus();
-    form.day.setSelectedSection(QDateTimeEdit::DaySection);
-    QString stored;
-    connect(&form.day, &QDateEdit::dateChanged, &form, [&] { stored += "date "; });
-    connect(&form.save, &QPushButton::clicked, &form, [&] { stored += form.day.key(); });
-    QTest::keyClicks(&form.day, "22");
-    QTest::keyClick(&form.day, Qt::Key_Enter, Qt::KeypadModifier);
-    QCOMPARE(stored, "date 20260122");
-}
+        form.day.set_key("20260115");
+        form.day.setFocus();
+        form.day.setSelectedSection(QDateTimeEdit::DaySection);
+        QString stored;
+        connect(&form.day, &QDateEdit::dateChanged, &form, [&] { stored += "date "; });
+        connect(&form.save, &QPushButton::clicked, &form, [&] { stored += form.day.key(); });
+        QTest::keyClicks(&form.day, "22");
+        QTest::keyClick(&form.day, Qt::Key_Enter, Qt::KeypadModifier);
+        QCOMPARE(stored, "date 20260122");
+    }
 
-void WindowRulesTest::mnemonic_gives_the_focus_first() {
-    Form form;
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    form.box.setFocus();
-    QString log;
-    control_events::on_lost_focus(&form.box, &form, [&] { log += "lost "; });
-    connect(&form.save, &QPushButton::clicked, &form, [&] { log += form.save.hasFocus() ? "pressed" : "too early"; });
-    QTest::keyClick(&form, Qt::Key_K, Qt::AltModifier);
-    QTRY_COMPARE(log, "lost pressed");
+    void mnemonic_gives_the_focus_first() {
+        Form form;
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        form.box.setFocus();
+        QString log;
+        control_events::on_lost_focus(&form.box, &form, [&] { log += "lost "; });
+        connect(&form.save, &QPushButton::clicked, &form,
+                [&] { log += form.save.hasFocus() ? "pressed" : "too early"; });
+        QTest::keyClick(&form, Qt::Key_K, Qt::AltModifier);
+        QTRY_COMPARE(log, "lost pressed");
 
-    // What the control left behind may take the button away.
-    form.box.setFocus();
-    control_events::on_lost_focus(&form.box, &form, [&] { form.save.setEnabled(false); });
-    log.clear();
-    QTest::keyClick(&form, Qt::Key_K, Qt::AltModifier);
-    QCOMPARE(log, "lost ");
-}
+        // What the control left behind may take the button away.
+        form.box.setFocus();
+        control_events::on_lost_focus(&form.box, &form, [&] { form.save.setEnabled(false); });
+        log.clear();
+        QTest::keyClick(&form, Qt::Key_K, Qt::AltModifier);
+        QCOMPARE(log, "lost ");
+    }
 
-void WindowRulesTest::heading_is_clicked() {
-    Form form;
-    ClickableLabel heading;
-    heading.setText("Öğr.No");
-    form.add(heading);
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-    form.box.setFocus();
-    QSignalSpy clicked(&heading, &ClickableLabel::clicked);
-    QTest::mouseClick(&heading, Qt::LeftButton);
-    QVERIFY(form.box.hasFocus());
-    QTest::mousePress(&heading, Qt::LeftButton);
-    QTest::mouseRelease(&heading, Qt::LeftButton, {}, QPoint(-5, -5));
-    QTest::mouseClick(&heading, Qt::RightButton);
-    QCOMPARE(clicked.count(), 1);
-    heading.setFocus();
-    QTest::keyClick(&heading, Qt::Key_Space);
-    QTest::keyClick(&heading, Qt::Key_Return);
-    QCOMPARE(clicked.count(), 3);
-    heading.setEnabled(false);
-    QTest::mouseClick(&heading, Qt::LeftButton);
-    QCOMPARE(clicked.count(), 3);
-}
+    void heading_is_clicked() {
+        Form form;
+        ClickableLabel heading;
+        heading.setText("Öğr.No");
+        form.add(heading);
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        form.box.setFocus();
+        QSignalSpy clicked(&heading, &ClickableLabel::clicked);
+        QTest::mouseClick(&heading, Qt::LeftButton);
+        QVERIFY(form.box.hasFocus());
+        QTest::mousePress(&heading, Qt::LeftButton);
+        QTest::mouseRelease(&heading, Qt::LeftButton, {}, QPoint(-5, -5));
+        QTest::mouseClick(&heading, Qt::RightButton);
+        QCOMPARE(clicked.count(), 1);
+        heading.setFocus();
+        QTest::keyClick(&heading, Qt::Key_Space);
+        QTest::keyClick(&heading, Qt::Key_Return);
+        QCOMPARE(clicked.count(), 3);
+        heading.setEnabled(false);
+        QTest::mouseClick(&heading, Qt::LeftButton);
+        QCOMPARE(clicked.count(), 3);
+    }
+};
+
+static const Registered<WindowRulesTest> registered;
+#include "window_rules_test.moc"

@@ -1,11 +1,10 @@
 #include "platform/grid_view.h"
 
-#include "control_tests.h"
+#include "support/run_all.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <stdexcept>
 
@@ -38,210 +37,190 @@ QList<QList<QVariant>> cells(std::initializer_list<std::pair<int, int>> list) {
 
 }  // namespace
 
-void GridViewTest::heading_and_body_are_one_count() {
-    GridView grid;
-    grid.set_columns(2);
-    grid.set_fixed(1, 0);
-    QCOMPARE(grid.rows(), 1);
-    grid.set_rows(3);
-    grid.set_row(0, {"Vade", "Tutar"});
-    grid.set_text(2, 1, "1.250");
-    QCOMPARE(grid.model()->rowCount(), 2);
-    QCOMPARE(grid.model()->headerData(1, Qt::Horizontal).toString(), "Tutar");
-    QCOMPARE(grid.model()->index(1, 1).data().toString(), "1.250");
-    QVERIFY(!grid.horizontalHeader()->isHidden());
+class GridViewTest : public QObject {
+    Q_OBJECT
 
-    grid.set_back_color(2, 1, Qt::yellow);
-    grid.clear();
-    QCOMPARE(grid.rows(), 3);
-    QCOMPARE(grid.text(0, 1), "");
-    QVERIFY(!grid.back_color(2, 1).isValid());
-    grid.set_rows(0);
-    QCOMPARE(grid.rows(), 1);
-}
+private slots:
+    void heading_and_body_are_one_count() {
+        GridView grid;
+        grid.set_columns(2);
+        grid.set_fixed(1, 0);
+        QCOMPARE(grid.rows(), 1);
+        grid.set_rows(3);
+        grid.set_row(0, {"Vade", "Tutar"});
+        grid.set_text(2, 1, "1.250");
+        QCOMPARE(grid.model()->rowCount(), 2);
+        QCOMPARE(grid.model()->headerData(1, Qt::Horizontal).toString(), "Tutar");
+        QCOMPARE(grid.model()->index(1, 1).data().toString(), "1.250");
+        for (const auto& missing : std::initializer_list<std::function<void()>>{
+                 [&] { grid.text(3, 0); }, [&] { grid.set_text(0, 2, "x"); }, [&] { grid.back_color(3, 0); },
+                 [&] { grid.set_current(0, 0); }, [&] { grid.sort_by(2); }})
+            QVERIFY_EXCEPTION_THROWN(missing(), std::out_of_range);
 
-void GridViewTest::missing_cell_is_refused() {
-    GridView grid;
-    grid.set_columns(2);
-    grid.set_fixed(1, 0);
-    grid.set_rows(2);
-    QVERIFY_EXCEPTION_THROWN(grid.text(2, 0), std::out_of_range);
-    QVERIFY_EXCEPTION_THROWN(grid.set_text(0, 2, "x"), std::out_of_range);
-    QVERIFY_EXCEPTION_THROWN(grid.set_current(0, 0), std::out_of_range);
-    QVERIFY_EXCEPTION_THROWN(grid.sort_by(2), std::out_of_range);
-}
-
-void GridViewTest::clicks_of_the_mouse() {
-    Lessons grid;
-    QSignalSpy clicked(&grid, &GridView::cell_clicked), pressed(&grid, &GridView::cell_pressed),
-        twice(&grid, &GridView::cell_double_clicked);
-    QWidget* body = grid.viewport();
-    QTest::mouseClick(body, Qt::LeftButton, {}, grid.middle(3, 2));
-    QCOMPARE(clicked, cells({{3, 2}}));
-    QCOMPARE(grid.row(), 3);
-    QCOMPARE(grid.column(), 2);
-
-    // Let go over another cell.
-    QTest::mousePress(body, Qt::LeftButton, {}, grid.middle(4, 2));
-    QTest::mouseRelease(body, Qt::LeftButton, {}, grid.middle(5, 2));
-    // The other button, a fixed column, the heading, the empty ground.
-    QTest::mouseClick(body, Qt::RightButton, {}, grid.middle(2, 3));
-    QTest::mouseClick(body, Qt::LeftButton, {}, grid.middle(2, 1));
-    QTest::mouseClick(grid.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(200, 5));
-    QTest::mouseClick(body, Qt::LeftButton, {}, QPoint(body->width() - 2, 5));
-    QCOMPARE(clicked, cells({{3, 2}}));
-    QCOMPARE(pressed, cells({{3, 2}, {4, 2}}));
-    QCOMPARE(grid.row(), 4);
-
-    clicked.clear();
-    QTest::mouseClick(body, Qt::LeftButton, {}, grid.middle(2, 3));
-    QTest::mouseDClick(body, Qt::LeftButton, {}, grid.middle(2, 3));
-    QTest::mouseRelease(body, Qt::LeftButton, {}, grid.middle(2, 3));
-    QCOMPARE(twice, cells({{2, 3}}));
-    QCOMPARE(clicked, cells({{2, 3}}));
-}
-
-void GridViewTest::keys_on_the_current_cell() {
-    Lessons grid;
-    QSignalSpy clicked(&grid, &GridView::cell_clicked);
-    grid.set_current(2, 2);
-    QTest::keyClick(&grid, Qt::Key_Down);
-    QTest::keyClick(&grid, Qt::Key_D);
-    QCOMPARE(grid.row(), 3);
-    QCOMPARE(clicked.count(), 0);
-    QTest::keyClick(&grid, Qt::Key_Space);
-    QTest::keyClick(&grid, Qt::Key_Enter, Qt::KeypadModifier);
-    QCOMPARE(clicked, cells({{3, 2}, {3, 2}}));
-    QTest::keyClick(&grid, Qt::Key_Left);
-    QCOMPARE(grid.column(), 2);  // the name is a heading
-}
-
-void GridViewTest::dragging_moves_nothing() {
-    Lessons grid;
-    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, grid.middle(2, 2));
-    QMouseEvent move(QEvent::MouseMove, grid.middle(4, 3), grid.viewport()->mapToGlobal(grid.middle(4, 3)),
-                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(grid.viewport(), &move);
-    QCOMPARE(grid.row(), 2);
-    QCOMPARE(grid.column(), 2);
-    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, grid.middle(2, 2));
-}
-
-void GridViewTest::current_cell_stays_in_range() {
-    Lessons grid;
-    QCOMPARE(grid.row(), -1);
-    grid.set_current(20, 3);
-    QCOMPARE(grid.cell_rect(20, 3).height(), grid.rowHeight(0) - 1);
-    QVERIFY(grid.geometry().contains(grid.cell_rect(20, 3)));
-    grid.set_rows(6);
-    QCOMPARE(grid.row(), 5);
-    QCOMPARE(grid.column(), 3);
-    QVERIFY(grid.selectionModel()->isSelected(grid.currentIndex()));
-    {
-        const GridView::Filling filling(grid);
-        grid.set_rows(1);
-        for (int rows = 2; rows <= 11; ++rows) grid.set_rows(rows);
-        grid.set_current(8, 2);
-    }
-    QCOMPARE(grid.row(), 8);
-    grid.set_rows(0);
-    grid.set_rows(11);
-    QCOMPARE(grid.row(), -1);
-}
-
-void GridViewTest::filling_tells_the_view_once() {
-    GridView grid;
-    grid.set_widths({500, 700});
-    grid.set_rows(3);
-    QSignalSpy more(grid.model(), &QAbstractItemModel::rowsInserted);
-    QSignalSpy changes(grid.model(), &QAbstractItemModel::dataChanged);
-    {
-        const GridView::Filling filling(grid);
+        grid.set_back_color(2, 1, Qt::yellow);
+        grid.clear();
+        QCOMPARE(grid.rows(), 3);
+        QCOMPARE(grid.text(0, 1), "");
+        QVERIFY(!grid.back_color(2, 1).isValid());
         grid.set_rows(0);
-        for (int row = 0; row < 1000; ++row) {
-            const GridView::Filling inner(grid);
-            grid.set_rows(row + 1);
-            grid.set_row(row, {"12A", QString::number(row)});
-        }
-        QCOMPARE(more.count() + changes.count(), 0);
-        QCOMPARE(grid.text(999, 1), "999");
-        QVERIFY(!grid.updatesEnabled());
+        QCOMPARE(grid.rows(), 1);
     }
-    QCOMPARE(more.count(), 1);
-    QVERIFY(changes.count() <= 1);
-    QVERIFY(grid.updatesEnabled());
-    QCOMPARE(grid.model()->rowCount(), 1000);
-}
 
-void GridViewTest::columns_in_twips() {
-    GridView grid;
-    grid.set_widths({250, 1000, 1, 1430});
-    grid.set_stretch_column(1);
-    grid.set_rows(1);
-    grid.set_text(0, 2, "CYER");
-    grid.resize(600, 100);
-    grid.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&grid));
-    QCOMPARE(grid.columnWidth(0), 21);
-    QVERIFY(grid.isColumnHidden(2));
-    QCOMPARE(grid.text(0, 2), "CYER");
-    QCOMPARE(grid.columnWidth(3), 119);
-    QCOMPARE(grid.columnWidth(1), grid.viewport()->width() - 21 - 119);
-    grid.resize(150, 100);
-    QTRY_COMPARE(grid.columnWidth(1), 83);  // no less than told
+    void clicks_of_the_mouse() {
+        Lessons grid;
+        QSignalSpy clicked(&grid, &GridView::cell_clicked), pressed(&grid, &GridView::cell_pressed),
+            twice(&grid, &GridView::cell_double_clicked);
+        QWidget* body = grid.viewport();
+        QTest::mouseClick(body, Qt::LeftButton, {}, grid.middle(3, 2));
+        QCOMPARE(clicked, cells({{3, 2}}));
+        QCOMPARE(grid.row(), 3);
+        QCOMPARE(grid.column(), 2);
 
-    // Widths outlive a later change of the heading.
-    grid.set_fixed(1, 0);
-    QCOMPARE(grid.columnWidth(0), 21);
-    QVERIFY(grid.isColumnHidden(2));
-}
+        // Dragged to another cell and let go there.
+        QTest::mousePress(body, Qt::LeftButton, {}, grid.middle(4, 2));
+        QMouseEvent move(QEvent::MouseMove, grid.middle(5, 3), body->mapToGlobal(grid.middle(5, 3)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(body, &move);
+        QTest::mouseRelease(body, Qt::LeftButton, {}, grid.middle(5, 2));
+        // The other button, a fixed column, the heading, the empty ground.
+        QTest::mouseClick(body, Qt::RightButton, {}, grid.middle(2, 3));
+        QTest::mouseClick(body, Qt::LeftButton, {}, grid.middle(2, 1));
+        QTest::mouseClick(grid.horizontalHeader()->viewport(), Qt::LeftButton, {}, QPoint(200, 5));
+        QTest::mouseClick(body, Qt::LeftButton, {}, QPoint(body->width() - 2, 5));
+        QCOMPARE(clicked, cells({{3, 2}}));
+        QCOMPARE(pressed, cells({{3, 2}, {4, 2}}));
+        QCOMPARE(grid.row(), 4);
+        QCOMPARE(grid.column(), 2);
 
-void GridViewTest::columns_keep_their_cells() {
-    GridView grid;
-    grid.set_columns(2);
-    grid.set_rows(2);
-    grid.set_row(0, {"a", "b"});
-    grid.set_row(1, {"c", "d"});
-    grid.set_fore_color(1, 1, Qt::red);
-    grid.set_columns(3);
-    QCOMPARE(grid.text(1, 0) + grid.text(1, 1) + grid.text(1, 2), "cd");
-    QCOMPARE(grid.fore_color(1, 1), QColor(Qt::red));
-    grid.set_columns(1);
-    grid.set_columns(2);
-    QCOMPARE(grid.text(1, 0) + grid.text(1, 1), "c");
-    QVERIFY(!grid.fore_color(1, 1).isValid());
-}
+        clicked.clear();
+        QTest::mouseClick(body, Qt::LeftButton, {}, grid.middle(2, 3));
+        QTest::mouseDClick(body, Qt::LeftButton, {}, grid.middle(2, 3));
+        QTest::mouseRelease(body, Qt::LeftButton, {}, grid.middle(2, 3));
+        QCOMPARE(twice, cells({{2, 3}}));
+        QCOMPARE(clicked, cells({{2, 3}}));
+    }
 
-void GridViewTest::cell_lies_where_it_is_painted() {
-    QWidget form;
-    Lessons grid;
-    grid.setParent(&form);
-    grid.move(30, 40);
-    form.resize(500, 300);
-    form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
-    QSignalSpy scrolled(&grid, &GridView::scrolled);
-    grid.verticalScrollBar()->setValue(7);
-    QVERIFY(scrolled.count() > 0);
+    void keys_on_the_current_cell() {
+        Lessons grid;
+        QSignalSpy clicked(&grid, &GridView::cell_clicked);
+        grid.set_current(2, 2);
+        QTest::keyClick(&grid, Qt::Key_Down);
+        QTest::keyClick(&grid, Qt::Key_D);
+        QCOMPARE(grid.row(), 3);
+        QCOMPARE(clicked.count(), 0);
+        QTest::keyClick(&grid, Qt::Key_Space);
+        QTest::keyClick(&grid, Qt::Key_Enter, Qt::KeypadModifier);
+        QCOMPARE(clicked, cells({{3, 2}, {3, 2}}));
+        QTest::keyClick(&grid, Qt::Key_Left);
+        QCOMPARE(grid.column(), 2);  // the name is a heading
+    }
 
-    const QRect first = grid.cell_rect(8, 2);
-    const QPoint body = grid.viewport()->mapTo(&form, QPoint(0, 0));
-    QCOMPARE(first.topLeft(), body + QPoint(167, 0));  // the hidden code takes no room
-    QCOMPARE(first.size(), QSize(grid.columnWidth(2) - 1, grid.rowHeight(0) - 1));
-    QCOMPARE(grid.cell_rect(0, 1).topLeft(), grid.horizontalHeader()->mapTo(&form, QPoint(0, 0)));
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.viewport()->mapFrom(&form, first.center()));
-    QCOMPARE(grid.row(), 8);
-}
+    void current_cell_stays_in_range() {
+        Lessons grid;
+        QCOMPARE(grid.row(), -1);
+        grid.set_current(20, 3);
+        QVERIFY(grid.geometry().contains(grid.cell_rect(20, 3)));
+        grid.set_rows(6);
+        QCOMPARE(grid.row(), 5);
+        QCOMPARE(grid.column(), 3);
+        {
+            const GridView::Filling filling(grid);
+            grid.set_rows(1);
+            grid.set_rows(11);
+            grid.set_current(8, 2);
+        }
+        QCOMPARE(grid.row(), 8);
+        grid.set_rows(0);
+        grid.set_rows(11);
+        QCOMPARE(grid.row(), -1);
+    }
 
-void GridViewTest::told_colour_is_readable() {
-    GridView grid;
-    grid.set_columns(2);
-    grid.set_rows(1);
-    grid.set_row_back_color(0, QColor(0xFF, 0xFF, 0xC0));
-    grid.set_fore_color(0, 1, Qt::red);
-    const auto text_color = [&](int column) { return grid.model()->index(0, column).data(Qt::ForegroundRole); };
-    QCOMPARE(text_color(0).value<QColor>(), QColor(Qt::black));
-    QCOMPARE(text_color(1).value<QColor>(), QColor(Qt::red));
-    grid.set_row_back_color(0, QColor());
-    QVERIFY(!text_color(0).isValid());
-}
+    void filling_tells_the_view_once() {
+        GridView grid;
+        grid.set_widths({500, 700});
+        grid.set_rows(3);
+        QSignalSpy more(grid.model(), &QAbstractItemModel::rowsInserted);
+        QSignalSpy changes(grid.model(), &QAbstractItemModel::dataChanged);
+        {
+            const GridView::Filling filling(grid);
+            grid.set_rows(0);
+            for (int row = 0; row < 1000; ++row) {
+                const GridView::Filling inner(grid);
+                grid.set_rows(row + 1);
+                grid.set_row(row, {"12A", QString::number(row)});
+            }
+            QCOMPARE(more.count() + changes.count(), 0);
+            QCOMPARE(grid.text(999, 1), "999");
+        }
+        QCOMPARE(more.count(), 1);
+        QVERIFY(changes.count() <= 1 && grid.updatesEnabled());
+        QCOMPARE(grid.model()->rowCount(), 1000);
+    }
+
+    void columns_in_twips() {
+        GridView grid;
+        grid.set_widths({250, 1000, 1, 1430});
+        grid.set_stretch_column(1);
+        grid.set_rows(1);
+        grid.set_fixed(1, 0);  // widths outlive a later change of the heading
+        grid.resize(600, 100);
+        grid.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&grid));
+        QCOMPARE(grid.columnWidth(0), 21);
+        QVERIFY(grid.isColumnHidden(2));
+        QCOMPARE(grid.columnWidth(3), 119);
+        QCOMPARE(grid.columnWidth(1), grid.viewport()->width() - 21 - 119);
+        grid.resize(150, 100);
+        QTRY_COMPARE(grid.columnWidth(1), 83);  // no less than told
+    }
+
+    void columns_keep_their_cells() {
+        GridView grid;
+        grid.set_columns(2);
+        grid.set_rows(2);
+        grid.set_row(1, {"c", "d"});
+        grid.set_fore_color(1, 1, Qt::red);
+        grid.set_columns(3);
+        QCOMPARE(grid.text(1, 0) + grid.text(1, 1) + grid.text(1, 2), "cd");
+        QCOMPARE(grid.fore_color(1, 1), QColor(Qt::red));
+        grid.set_columns(1);
+        grid.set_columns(2);
+        QCOMPARE(grid.text(1, 0) + grid.text(1, 1), "c");
+        QVERIFY(!grid.fore_color(1, 1).isValid());
+    }
+
+    void cell_lies_where_it_is_painted() {
+        QWidget form;
+        Lessons grid;
+        grid.setParent(&form);
+        grid.move(30, 40);
+        form.resize(500, 300);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QSignalSpy scrolled(&grid, &GridView::scrolled);
+        grid.verticalScrollBar()->setValue(7);
+        QVERIFY(scrolled.count() > 0);
+
+        const QRect first = grid.cell_rect(8, 2);
+        const QPoint body = grid.viewport()->mapTo(&form, QPoint(0, 0));
+        QCOMPARE(first.topLeft(), body + QPoint(167, 0));  // the hidden code takes no room
+        QCOMPARE(first.size(), QSize(grid.columnWidth(2) - 1, grid.rowHeight(0) - 1));
+        QCOMPARE(grid.cell_rect(0, 1).topLeft(), grid.horizontalHeader()->mapTo(&form, QPoint(0, 0)));
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.viewport()->mapFrom(&form, first.center()));
+        QCOMPARE(grid.row(), 8);
+    }
+
+    void told_colour_is_readable() {
+        GridView grid;
+        grid.set_columns(2);
+        grid.set_rows(1);
+        grid.set_row_back_color(0, QColor(0xFF, 0xFF, 0xC0));
+        grid.set_fore_color(0, 1, Qt::red);
+        const auto text_color = [&](int column) { return grid.model()->index(0, column).data(Qt::ForegroundRole); };
+        QCOMPARE(text_color(0).value<QColor>(), QColor(Qt::black));
+        QCOMPARE(text_color(1).value<QColor>(), QColor(Qt::red));
+    }
+};
+
+static const Registered<GridViewTest> registered;
+#include "grid_view_test.moc"

@@ -1,13 +1,14 @@
 #include "platform/print_surface.h"
 
-#include "base_tests.h"
 #include "platform/clock.h"
 #include "support/drives.h"
+#include "support/paper_lines.h"
+#include "support/refusal.h"
+#include "support/run_all.h"
 
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTest>
 
 #include <cmath>
 
@@ -24,9 +25,6 @@ public:
         PrintSurface::set_observer({});
         qunsetenv("KURVO_PRINTER");
     }
-    Printer(const Printer&) = delete;
-    Printer& operator=(const Printer&) = delete;
-
     std::vector<PrintSurface::Document> sent;
 };
 
@@ -51,123 +49,111 @@ QMap<QString, QPointF> words_of(const QString& pdf) {
 
 }  // namespace
 
-void PrintSurfaceTest::position_follows_the_text() {
-    PrintSurface surface("makbuz", "1250");
-    surface.font_size(12);
-    surface.move_to(1000, 500);
-    surface.print("Kalan borcunuz   ");
-    const double behind = surface.x();
-    surface.bold(true);
-    surface.print("4");
-    QCOMPARE(surface.y(), 500.0);
-    QVERIFY(behind > 1000 + 12 * 100 && surface.x() > behind);
-    // A font of 12 points is 240 twips high, a little more with the room between lines.
-    QVERIFY(surface.line_height() > 240 && surface.line_height() < 320);
-    const double line_height = surface.line_height();
-    surface.print_line(" taksit");
-    QCOMPARE(surface.x(), 0.0);
-    QCOMPARE(surface.y(), 500 + line_height);
-    surface.print_line("");
-    QCOMPARE(surface.y(), 500 + 2 * line_height);
-    surface.new_page();
-    QCOMPARE(surface.y(), 0.0);
-}
+class PrintSurfaceTest : public QObject {
+    Q_OBJECT
 
-void PrintSurfaceTest::amounts_end_at_one_edge() {
-    PrintSurface surface("makbuz", "1250");
-    // 13 characters of 90 twips: "1.250" has 8 of them before it.
-    QCOMPARE(PrintSurface::right_aligned(4100, "1.250"), 4100.0 + 8 * 90);
-    QCOMPARE(PrintSurface::right_aligned(4100, "  1.250  "), 4100.0 + 8 * 90);
-    QCOMPARE(PrintSurface::right_aligned(4100, "12345678901234"), 4100.0 - 90);
-    const auto right_edge = [&](const QString& text) {
-        return PrintSurface::right_aligned(4100, text) + surface.text_width(text);
-    };
-    for (const QString amount : {"5", "99", "500", "12345"})
-        QVERIFY(std::abs(right_edge(amount) - right_edge("1250")) < 8);
-}
-
-void PrintSurfaceTest::document_is_sent_once() {
-    const Drives drives;
-    Printer printer("pdf:" + drives.path("papers"));
-    {
-        PrintSurface forgotten("makbuz", "1250");
-        forgotten.print("nobody asked");
-    }
-    QVERIFY(printer.sent.empty());
-
-    PrintSurface surface("makbuz", "1250");
-    surface.line_width(3);
-    surface.move_to(8500, 850);
-    surface.print("Tarih");
-    surface.line(1000, 3000, 10500, 3000);
-    surface.new_page();
-    surface.picture(500, 400, 1200, 1500, QImage(2, 2, QImage::Format_RGB32));
-    const PrintSurface::Document document = surface.end_document();
-    QCOMPARE(printer.sent.size(), 1u);
-    QCOMPARE(document.pages.size(), 2u);
-    QCOMPARE(document.pages[0].size(), 2u);
-    QCOMPARE(document.pages[0][0].text, QString("Tarih"));
-    QCOMPARE(document.pages[0][0].x, 8500.0);
-    QCOMPARE(document.pages[0][1].width, 3);
-    QCOMPARE(document.pages[1][0].x2, 1700.0);
-    QCOMPARE(document.pages[1][0].y2, 1900.0);
-    QCOMPARE(files_in(drives.path("papers")).size(), 1);
-
-    QVERIFY(surface.end_document().pages.front().empty());
-}
-
-void PrintSurfaceTest::positions_in_the_pdf() {
-    const Drives drives;
-    const Printer printer("pdf:" + drives.path("papers"));
-    PrintSurface surface("Ödeme Planı", "1250");
-    surface.move_to(1000, 500);
-    surface.print("Öğrenci");
-    surface.font({14, true, true, {}});
-    surface.move_to(8500, 15000);
-    surface.print("ŞİRKET");
-    const QString file = surface.end_document().file;
-    QFile pdf(file);
-    QVERIFY(pdf.open(QIODevice::ReadOnly));
-    const QByteArray bytes = pdf.readAll();
-    QVERIFY(bytes.startsWith("%PDF-") && bytes.trimmed().endsWith("%%EOF"));
-
-    if (QStandardPaths::findExecutable("pdftotext").isEmpty()) QSKIP("no pdftotext to read the page with");
-    const QMap<QString, QPointF> words = words_of(file);
-    QCOMPARE(words.keys(), QStringList({"Öğrenci", "ŞİRKET"}));
-    QVERIFY(QLineF(words["Öğrenci"], QPointF(1000, 500)).length() < 15);
-    QVERIFY(QLineF(words["ŞİRKET"], QPointF(8500, 15000)).length() < 15);
-}
-
-void PrintSurfaceTest::file_names_never_collide() {
-    const Drives drives;
-    const Printer printer("pdf:c:\\kağıt");
-    const clock_source::Override clock([] { return QDateTime(QDate(2026, 3, 9), QTime(9, 5, 33)); });
-    const QString folder = drives.path("c/kağıt");
-    for (int copy = 1; copy <= 3; ++copy) {
-        PrintSurface surface("Devam/Çizelge", "..\\12");
-        surface.print(QString::number(copy));
-        const QString file = surface.end_document().file;
-        QCOMPARE(file, folder + QString("/Devam_Çizelge____12_20260309-090533_%1.pdf").arg(copy));
-        QVERIFY(QFile::exists(file));
-    }
-    QCOMPARE(files_in(folder).size(), 3);
-}
-
-void PrintSurfaceTest::refusals_are_told() {
-    const Drives drives;
-    drives.put("c/dolu", "a file where the folder should be");
-    for (const QString told : {"pdf:c:\\dolu", "No such printer"}) {
-        Printer printer(told);
+private slots:
+    void position_follows_the_text() {
         PrintSurface surface("makbuz", "1250");
-        surface.print("x");
-        QString said;
-        try {
-            surface.end_document();
-        } catch (const std::runtime_error& error) {
-            said = QString::fromUtf8(error.what());
-        }
-        QVERIFY2(said.contains(told.mid(told.indexOf(':') + 1)), qPrintable(said));
-        QVERIFY(!said.contains(drives.path({})));
-        QVERIFY(printer.sent.empty());
+        surface.font_size(12);
+        surface.move_to(1000, 500);
+        surface.print("Kalan borcunuz   ");
+        const double behind = surface.x();
+        surface.print("4");
+        QVERIFY(behind > 1000 + 12 * 100 && surface.x() > behind);
+        // A font of 12 points is 240 twips high, a little more with the room between lines.
+        const double line_height = surface.line_height();
+        QVERIFY(line_height > 240 && line_height < 320);
+        surface.print_line(" taksit");
+        QCOMPARE(surface.x(), 0.0);
+        surface.print_line("");
+        QCOMPARE(surface.y(), 500 + 2 * line_height);
+        surface.new_page();
+        QCOMPARE(surface.y(), 0.0);
     }
-}
+
+    void amounts_end_at_one_edge() {
+        PrintSurface surface("makbuz", "1250");
+        // 13 characters of 90 twips: "1.250" has 8 of them before it.
+        QCOMPARE(PrintSurface::right_aligned(4100, "  1.250  "), 4100.0 + 8 * 90);
+        QCOMPARE(PrintSurface::right_aligned(4100, "12345678901234"), 4100.0 - 90);
+        const auto right_edge = [&](const QString& text) {
+            return PrintSurface::right_aligned(4100, text) + surface.text_width(text);
+        };
+        for (const QString amount : {"5", "99", "500", "12345"})
+            QVERIFY(std::abs(right_edge(amount) - right_edge("1250")) < 8);
+    }
+
+    void document_is_sent_once() {
+        const Drives drives;
+        Printer printer("pdf:" + drives.path("papers"));
+        PrintSurface("makbuz", "1250").print("nobody asked");
+        QVERIFY(printer.sent.empty());
+
+        PrintSurface surface("makbuz", "1250");
+        surface.line_width(3);
+        surface.move_to(8500, 850);
+        surface.print("Tarih");
+        surface.line(1000, 3000, 10500, 3000);
+        surface.new_page();
+        surface.picture(500, 400, 1200, 1500, QImage(2, 2, QImage::Format_RGB32));
+        const PrintSurface::Document document = surface.end_document();
+        QCOMPARE(printer.sent.size(), 1u);
+        QCOMPARE(document.pages.size(), 2u);
+        QCOMPARE(paper_lines(document.pages[0]).first().left(9), QString("8500,850 "));
+        QCOMPARE(paper_lines(document.pages[0]).last(), QString("1000,3000-10500,3000"));
+        QCOMPARE(document.pages[0][1].width, 3);
+        QCOMPARE(QPointF(document.pages[1][0].x2, document.pages[1][0].y2), QPointF(1700, 1900));
+        QCOMPARE(files_in(drives.path("papers")).size(), 1);
+        QVERIFY(surface.end_document().pages.front().empty());
+    }
+
+    void positions_in_the_pdf() {
+        const Drives drives;
+        const Printer printer("pdf:" + drives.path("papers"));
+        PrintSurface surface("Ödeme Planı", "1250");
+        surface.move_to(1000, 500);
+        surface.print("Öğrenci");
+        surface.font({14, true, true, {}});
+        surface.move_to(8500, 15000);
+        surface.print("ŞİRKET");
+        const QString file = surface.end_document().file;
+        if (QStandardPaths::findExecutable("pdftotext").isEmpty()) QSKIP("no pdftotext to read the page with");
+        const QMap<QString, QPointF> words = words_of(file);
+        QCOMPARE(words.keys(), QStringList({"Öğrenci", "ŞİRKET"}));
+        QVERIFY(QLineF(words["Öğrenci"], QPointF(1000, 500)).length() < 15);
+        QVERIFY(QLineF(words["ŞİRKET"], QPointF(8500, 15000)).length() < 15);
+    }
+
+    void file_names_never_collide() {
+        const Drives drives;
+        const Printer printer("pdf:c:\\kağıt");
+        const clock_source::Override clock([] { return QDateTime(QDate(2026, 3, 9), QTime(9, 5, 33)); });
+        const QString folder = drives.path("c/kağıt");
+        for (int copy = 1; copy <= 3; ++copy) {
+            PrintSurface surface("Devam/Çizelge", "..\\12");
+            surface.print(QString::number(copy));
+            const QString file = surface.end_document().file;
+            QCOMPARE(file, folder + QString("/Devam_Çizelge____12_20260309-090533_%1.pdf").arg(copy));
+            QVERIFY(QFile::exists(file));
+        }
+        QCOMPARE(files_in(folder).size(), 3);
+    }
+
+    void refusals_are_told() {
+        const Drives drives;
+        drives.put("c/dolu", "a file where the folder should be");
+        for (const QString told : {"pdf:c:\\dolu", "No such printer"}) {
+            Printer printer(told);
+            PrintSurface surface("makbuz", "1250");
+            surface.print("x");
+            const QString said = refusal([&] { surface.end_document(); });
+            QVERIFY2(said.contains(told.mid(told.indexOf(':') + 1)), qPrintable(said));
+            QVERIFY(!said.contains(drives.path({})));
+            QVERIFY(printer.sent.empty());
+        }
+    }
+};
+
+static const Registered<PrintSurfaceTest> registered;
+#include "print_surface_test.moc"

@@ -1,12 +1,11 @@
 #include "platform/prompt.h"
 
-#include "control_tests.h"
 #include "platform/slots.h"
+#include "support/run_all.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 #include <stdexcept>
@@ -39,69 +38,71 @@ public:
 
 }  // namespace
 
-void PromptTest::keys_answer_data() {
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<bool>("answer");
-    QTest::newRow("Enter") << Qt::Key_Return << true;
-    QTest::newRow("Esc") << Qt::Key_Escape << false;
-}
+class PromptTest : public QObject {
+    Q_OBJECT
 
-void PromptTest::keys_answer() {
-    QFETCH(Qt::Key, key);
-    Person person(key);
-    QTEST(prompt::ask("Kayıt silinsin mi?", "Dikkat"), "answer");
-    QCOMPARE(person.title, "Dikkat");
-    person.buttons.sort();
-    QCOMPARE(person.buttons, QStringList({"Tamam", QStringLiteral("İptal")}));
-    Person reader(key);
-    prompt::tell("<b>Bitti</b>");
-    QCOMPARE(reader.buttons, QStringList("Tamam"));
-}
-
-void PromptTest::script_keeps_what_went_wrong() {
-    prompt::Script script;
-    script.expect("silinsin", true).expect("emin", false).expect("bitti");
-    QVERIFY(prompt::ask("Kayıt silinsin mi?", "Dikkat"));
-    QVERIFY(!prompt::ask("emin misiniz?"));
-    QCOMPARE(script.failures().size(), 1);  // the last is still to come
-    {
-        prompt::Script inner;
-        prompt::tell("hiç");
-        QCOMPARE(inner.failures().size(), 1);
+private slots:
+    void keys_answer() {
+        for (const auto& [key, answer] : {std::pair(Qt::Key_Return, true), {Qt::Key_Escape, false}}) {
+            Person person(key);
+            QCOMPARE(prompt::ask("Kayıt silinsin mi?", "Dikkat"), answer);
+            QCOMPARE(person.title, "Dikkat");
+            person.buttons.sort();
+            QCOMPARE(person.buttons, QStringList({"Tamam", "İptal"}));
+            Person reader(key);
+            prompt::tell("<b>Bitti</b>");
+            QCOMPARE(reader.buttons, QStringList("Tamam"));
+        }
     }
-    prompt::tell("bitti");
-    QCOMPARE(script.failures(), QStringList());
-    QVERIFY(!prompt::ask("daha?"));
-    QCOMPARE(script.failures().size(), 1);
-    QCOMPARE(script.seen(),
-             QStringList({"Dikkat|Kayıt silinsin mi?", "Kurvo|emin misiniz?", "Kurvo|bitti", "Kurvo|daha?"}));
-}
 
-void PromptTest::exception_stays_in_the_slot() {
-    QString what;
-    fatal::set_handler([&](const std::exception& error) { what = error.what(); });
-    QPushButton button;
-    on(&button, &QPushButton::clicked, this, [] { throw std::runtime_error("Dosya kilitli"); });
-    button.click();
-    fatal::set_handler({});
-    QCOMPARE(what, "Dosya kilitli");
-}
+    void script_keeps_what_went_wrong() {
+        prompt::Script script;
+        script.expect("silinsin", true).expect("emin", false).expect("bitti");
+        QVERIFY(prompt::ask("Kayıt silinsin mi?", "Dikkat"));
+        QVERIFY(!prompt::ask("emin misiniz?"));
+        QCOMPARE(script.failures().size(), 1);  // the last is still to come
+        {
+            prompt::Script inner;
+            prompt::tell("hiç");
+            QCOMPARE(inner.failures().size(), 1);
+        }
+        prompt::tell("bitti");
+        QCOMPARE(script.failures(), QStringList());
+        QVERIFY(!prompt::ask("daha?"));
+        QCOMPARE(script.failures().size(), 1);
+        QCOMPARE(script.seen(),
+                 QStringList({"Dikkat|Kayıt silinsin mi?", "Kurvo|emin misiniz?", "Kurvo|bitti", "Kurvo|daha?"}));
+    }
 
-void PromptTest::program_ends_once() {
+    void exception_stays_in_the_slot() {
+        QString what;
+        fatal::set_handler([&](const std::exception& error) { what = error.what(); });
+        QPushButton button;
+        on(&button, &QPushButton::clicked, this, [] { throw std::runtime_error("Dosya kilitli"); });
+        button.click();
+        fatal::set_handler({});
+        QCOMPARE(what, "Dosya kilitli");
+    }
+
+    void program_ends_once() {
 #ifdef Q_OS_UNIX
-    const pid_t child = fork();
-    if (child == 0) {
-        // A second error while the first one's box waits for its Enter.
-        Person person(Qt::Key_Return);
-        QTimer::singleShot(0, [] { fatal::guard([] { throw std::runtime_error("ikinci"); }); });
-        fatal::guard([] { throw std::runtime_error("birinci"); });
-        _exit(77);
-    }
-    int status = 0;
-    QCOMPARE(waitpid(child, &status, 0), child);
-    QVERIFY(WIFEXITED(status));
-    QCOMPARE(WEXITSTATUS(status), 1);
+        const pid_t child = fork();
+        if (child == 0) {
+            // A second error while the first one's box waits for its Enter.
+            Person person(Qt::Key_Return);
+            QTimer::singleShot(0, [] { fatal::guard([] { throw std::runtime_error("ikinci"); }); });
+            fatal::guard([] { throw std::runtime_error("birinci"); });
+            _exit(77);
+        }
+        int status = 0;
+        QCOMPARE(waitpid(child, &status, 0), child);
+        QVERIFY(WIFEXITED(status));
+        QCOMPARE(WEXITSTATUS(status), 1);
 #else
-    QSKIP("needs fork");
+        QSKIP("needs fork");
 #endif
-}
+    }
+};
+
+static const Registered<PromptTest> registered;
+#include "prompt_test.moc"

@@ -1,210 +1,174 @@
 #include "session/start_up.h"
 
-#include "office.h"
 #include "platform/grid_view.h"
 #include "platform/paths.h"
 #include "platform/prompt.h"
 #include "platform/rich_text.h"
+#include "platform/slots.h"
 #include "register/program.h"
 #include "session/hand_over.h"
-#include "session_tests.h"
+#include "support/refusal.h"
+#include "support/run_all.h"
+#include "support/school.h"
 
-#include <QTest>
+#include <tuple>
 
 namespace {
 
-const QString programs_file = QStringLiteral("c:\\qlm\\Psys.mdb");
-const QString tak = QStringLiteral("c:\\qlm\\tak.txt");
+const QString tak = QStringLiteral("c/qlm/tak.txt");
 
-// The panel buttons that are shown, each with its distance below the first place in told button heights.
-QStringList placed_buttons(const Kurvo& kurvo) {
-    constexpr int button_height = 20;  // 240 twips
+// The panel buttons that are shown, each with its distance below the first place in button heights.
+QString placed_buttons(const Kurvo& kurvo) {
     QStringList placed;
     for (const QPushButton* button : {kurvo.CommandYENI, kurvo.CommandTAHSILAT, kurvo.CommandDEVAMSIZLIK,
                                       kurvo.CommandETUD, kurvo.CommandNOT, kurvo.CommandTOPLU})
         if (button->isVisible())
-            placed.append(button->objectName() + " " +
-                          QString::number((button->y() - kurvo.CommandYENI->y()) / button_height));
-    return placed;
+            placed += button->objectName().mid(7) + QString::number((button->y() - kurvo.CommandYENI->y()) / 20);
+    return placed.join(' ');
 }
+
+// The program on the files of the school, as the launcher starts it.
+struct Running {
+    explicit Running(School& school, const School::HandOver& items = {}) {
+        school.hand_over(items);
+        school.running_program();
+        started = program.start();
+    }
+    Program program;
+    bool started = false;
+    Kurvo& kurvo = program.form();
+    SessionContext& session = program.session();
+};
 
 }  // namespace
 
-void StartUpTest::form_comes_up_filled() {
-    const Office office({"2026", "2025"});
-    for (const int number : {1250, 7}) Office::student("2026", number, "AYŞE");
-    launch::HandOver values = office.hand_over();
-    values.version = "21.0";
-    values.remote_key = "ANK";
-    launch::prepare(values);
+class StartUpTest : public QObject {
+    Q_OBJECT
 
-    Program program;
-    QVERIFY(program.start());
-    const Kurvo& kurvo = program.form();
-    QVERIFY(kurvo.isVisible());
-    QCOMPARE(kurvo.windowTitle(), QStringLiteral("  Öğrenci İşlemleri     21.0    (ANK)"));
-    QCOMPARE(kurvo.TABLO->rows(), 2);
-    QCOMPARE(kurvo.TABLO->text(0, 1), QStringLiteral("7"));
-    QCOMPARE(kurvo.SDONEM->count(), 2);
-    QCOMPARE(kurvo.ComboKASATIP->currentText(), QStringLiteral(" "));
-    QVERIFY(kurvo.CheckKad->isChecked());
-    QVERIFY(kurvo.TABLO->isVisible());
-    QVERIFY(program.session().termDbOpen);
-    QCOMPARE(program.session().collectionsAllowed, 1);
-}
+private slots:
+    void form_comes_up_filled() {
+        School school;
+        school.add_term("2025");
+        for (const int number : {1250, 7}) school.student(number).name("AYŞE");
+        const QString scratch = "c:\\qlm\\siletud.mdb";
+        for (const char* left_over : {"c/qlm/siletud.mdb", "c/qlm/siletud.mdb-journal"})
+            school.drives.put(left_over, "x");
+        Running run(school, {.version = "21.0", .remote_key = "ANK"});
+        QVERIFY(run.started && run.kurvo.isVisible());
+        QCOMPARE(run.kurvo.windowTitle(), QStringLiteral("  Öğrenci İşlemleri     21.0    (ANK)"));
+        QCOMPARE(run.kurvo.TABLO->rows(), 2);
+        QCOMPARE(run.kurvo.TABLO->text(0, 1), QStringLiteral("7"));
+        QCOMPARE(run.kurvo.SDONEM->count(), 2);
+        QCOMPARE(run.kurvo.ComboKASATIP->currentText(), QStringLiteral(" "));
+        QVERIFY(run.kurvo.CheckKad->isChecked() && run.kurvo.TABLO->isVisible() && run.session.termDbOpen);
+        QVERIFY(!QFile::exists(school.drives.path(tak)));
+        for (const QString& gone : {scratch, scratch + "-journal", hand_over_file})
+            QVERIFY2(!paths::exists(gone), qPrintable(gone));
+        for (const QString& made : {school.data_file("Prmt.txt"), school.data_file("Fatura.txt")})
+            QVERIFY2(paths::exists(made), qPrintable(made));
+    }
 
-void StartUpTest::leftovers_and_new_files() {
-    const Office office;
-    const QString scratch = QStringLiteral("c:\\qlm\\siletud.mdb");
-    Office::write(scratch, "x");
-    Office::write(scratch + "-journal", "x");
-    launch::prepare(office.hand_over());
-    Program program;
-    QVERIFY(program.start());
-    for (const QString& gone : {scratch, scratch + "-journal", hand_over_file, tak})
-        QVERIFY2(!paths::exists(gone), qPrintable(gone));
-    for (const QString& made : {Office::data("Prmt.txt"), Office::data("Fatura.txt")})
-        QVERIFY2(paths::exists(made), qPrintable(made));
-}
+    void rights_place_the_buttons() {
+        const std::tuple<QString, QString, int> users[]{{"111111", "YENI0 TAHSILAT1 DEVAMSIZLIK2 ETUD3 NOT4 TOPLU5", 1},
+                                                        {"000000", "", 0},
+                                                        {"010101", "TAHSILAT0 ETUD1 TOPLU2", 1},
+                                                        {"x21", "DEVAMSIZLIK0", 0}};
+        for (const auto& [rights, buttons, collections] : users) {
+            School school;
+            Running run(school, {.rights = rights});
+            QCOMPARE(placed_buttons(run.kurvo), buttons);
+            QCOMPARE(run.session.collectionsAllowed, collections);
+            QVERIFY(run.kurvo.CommandSBUL->isVisible());
+        }
+    }
 
-void StartUpTest::rights_place_the_buttons_data() {
-    QTest::addColumn<QString>("rights");
-    QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<int>("collections");
-    QTest::newRow("all") << "111111" << QStringList{"CommandYENI 0", "CommandTAHSILAT 1", "CommandDEVAMSIZLIK 2",
-                                                    "CommandETUD 3", "CommandNOT 4",      "CommandTOPLU 5"}
-                         << 1;
-    QTest::newRow("none") << "000000" << QStringList{} << 0;
-    QTest::newRow("every other") << "010101" << QStringList{"CommandTAHSILAT 0", "CommandETUD 1", "CommandTOPLU 2"}
-                                 << 1;
-    QTest::newRow("first and last") << "100001" << QStringList{"CommandYENI 0", "CommandTOPLU 1"} << 0;
-    QTest::newRow("short, other letters") << "x21" << QStringList{"CommandDEVAMSIZLIK 0"} << 0;
-}
+    void teachers_are_for_study_sessions_alone() {
+        School school;
+        school.teacher(12, "ŞULE").teacher(5, "ZEKİ").teacher(9, "ALİ").teacher(10, "ALİ");
+        school.lesson("02", "Fizik").lesson("01", "Türkçe");
+        const ReferenceLists all = load_reference_lists(school.reference_file(), true);
+        QCOMPARE(all.teachers, (QStringList{"ALİ  (10)", "ALİ  (9)", "ZEKİ  (5)", "ŞULE  (12)"}));
+        QCOMPARE(all.lessons[0].code + all.lessons[0].name, QStringLiteral("01Türkçe"));
 
-void StartUpTest::rights_place_the_buttons() {
-    QFETCH(QString, rights);
-    const Office office;
-    launch::HandOver values = office.hand_over();
-    values.rights = rights;
-    launch::prepare(values);
-    Program program;
-    QVERIFY(program.start());
-    QTEST(placed_buttons(program.form()), "expected");
-    QTEST(program.session().collectionsAllowed, "collections");
-    QVERIFY(program.form().CommandSBUL->isVisible());
-}
+        Running run(school, {.rights = "111011"});
+        QVERIFY(run.session.reference.teachers.isEmpty());
+        QCOMPARE(run.session.reference.lessons.size(), std::size_t{2});
+    }
 
-void StartUpTest::teachers_are_for_study_sessions_alone() {
-    const Office office;
-    const QString reference = Office::data("Bilgi.mdb");
-    for (const auto& [number, name] : {std::pair(12, "ŞULE"), {5, "ZEKİ"}, {9, "ALİ"}, {10, "ALİ"}})
-        Office::add(reference, "Ogretmen", {{"SICIL", number}, {"ADSOY", name}});
-    for (const auto& [code, name] : {std::pair("02", "Fizik"), {"01", "Türkçe"}})
-        Office::add(reference, "Ders", {{"KOD", code}, {"TANIM", name}});
+    void failure_names_the_file() {
+        for (const QString missing : {"c:\\qlm\\log.txt", "c:\\okul\\data\\Dsys.mdb", "c:\\okul\\data\\kbase.mdb",
+                                      "c:\\okul\\data\\2026ogr.mdb", "c:\\okul\\data\\Bilgi.mdb"}) {
+            const School school;
+            school.hand_over();
+            QVERIFY(paths::remove(missing));
+            Program program;
+            const QString words = refusal([&] { program.start(); });
+            QVERIFY2(words.contains(missing), qPrintable(words));
+            QVERIFY(!paths::exists(hand_over_file));
+        }
+    }
 
-    const ReferenceLists all = load_reference_lists(reference, true);
-    QCOMPARE(all.teachers, (QStringList{"ALİ  (10)", "ALİ  (9)", "ZEKİ  (5)", "ŞULE  (12)"}));
-    QCOMPARE(all.lessons.size(), std::size_t{2});
-    QCOMPARE(all.lessons[0].code + all.lessons[0].name, QStringLiteral("01Türkçe"));
+    void other_version_stops_and_signs_off() {
+        School school;
+        school.data_version("20.9");
+        prompt::Script script;
+        script.expect("Sürüm uyuşmazlığı! Önce  Up21.1  programını çalıştırınız.");
+        Running run(school);
+        QVERIFY(!run.started);
+        QCOMPARE(script.failures(), QStringList());
+        QCOMPARE(script.seen().first().section('|', 0, 0), QStringLiteral("Dikkat"));
+        QVERIFY(!run.kurvo.isVisible() && !run.session.termDbOpen);
+        QCOMPARE(school.count("prg"), 0);
+        QCOMPARE(rich_text::plain(school.row("SBtab", {"RMA"}).value("SB1")), QStringLiteral("20.9"));
+        QVERIFY(!paths::exists(hand_over_file));
+        QVERIFY2(!paths::exists(school.data_file("Prmt.txt")), "nothing is made for a start that stopped");
+    }
 
-    launch::HandOver values = office.hand_over();
-    values.rights = "111011";
-    launch::prepare(values);
-    Program program;
-    QVERIFY(program.start());
-    QVERIFY(program.session().reference.teachers.isEmpty());
-    QCOMPARE(program.session().reference.lessons.size(), std::size_t{2});
-}
+    void closing_signs_off() {
+        School school;
+        school.running_program("Kasa");
+        Running run(school);
+        QCOMPARE(school.count("prg"), 2);
+        run.kurvo.close();
+        QVERIFY(!run.session.termDbOpen && !run.session.termDb.is_open());
+        QCOMPARE(school.rows("prg", {"KOD"}), QStringList("Kasa"));  // the other programs of the suite go on
+    }
 
-void StartUpTest::failure_names_the_file_data() {
-    QTest::addColumn<QString>("missing");
-    QTest::addColumn<bool>("hand_over_left");
-    QTest::newRow("launcher") << hand_over_file << false;
-    QTest::newRow("version") << Office::data("Dsys.mdb") << false;
-    QTest::newRow("users") << Office::data("kbase.mdb") << false;
-    QTest::newRow("term") << Office::data("2026ogr.mdb") << false;
-    QTest::newRow("reference") << Office::data("Bilgi.mdb") << false;
-}
+    void closing_without_the_launchers_list() {
+        for (const bool damaged : {false, true}) {
+            School school;
+            Running run(school);
+            QVERIFY(paths::remove(school.file_of("prg")));
+            if (damaged) school.drives.put("c/qlm/Psys.mdb", "no database at all");
+            QString said;
+            fatal::set_handler([&](const std::exception& error) { said += QString::fromUtf8(error.what()); });
+            const bool closed = run.kurvo.close();
+            fatal::set_handler({});
+            QVERIFY(closed && !run.session.termDb.is_open());
+            QCOMPARE(said.count(school.file_of("prg")), damaged ? 1 : 0);
+            QCOMPARE(paths::exists(school.file_of("prg")), damaged);  // the list is the launcher's to make
+        }
+    }
 
-void StartUpTest::failure_names_the_file() {
-    QFETCH(QString, missing);
-    const Office office;
-    launch::prepare(office.hand_over());
-    QVERIFY(paths::remove(missing));
-    Program program;
-    const QString words = refusal([&] { program.start(); });
-    QVERIFY2(words.contains(missing), qPrintable(words));
-    QTEST(paths::exists(hand_over_file), "hand_over_left");
-}
+    void both_writers_of_the_flags() {
+        School school;
+        school.student(7);
+        school.drives.put(tak, "\"0\"\r\n");
+        Running run(school);
+        Kurvo& kurvo = run.kurvo;
+        QVERIFY(!kurvo.TABLO->isVisible() && !kurvo.bslk[0]->isEnabled() && kurvo.CheckKad->isChecked());
+        QCOMPARE(school.drives.bytes(tak), QByteArray("\"0\"\r\n"));
 
-void StartUpTest::other_version_stops_and_signs_off() {
-    const Office office;
-    Office::set_version_row(rich_text::from_plain("20.9"));
-    launch::prepare(office.hand_over());
-    prompt::Script script;
-    script.expect("Sürüm uyuşmazlığı! Önce  Up21.1  programını çalıştırınız.");
-    Program program;
-    QVERIFY(!program.start());
-    QCOMPARE(script.failures(), QStringList());
-    QCOMPARE(script.seen().first().section('|', 0, 0), QStringLiteral("Dikkat"));
-    QVERIFY(!program.form().isVisible());
-    QVERIFY(!program.session().termDbOpen);
-    QVERIFY(!Office::runs("Kurvo"));
-    QCOMPARE(Office::version_row(), QStringLiteral("20.9"));
-    QVERIFY(!paths::exists(hand_over_file));
-    QVERIFY2(!paths::exists(Office::data("Prmt.txt")), "nothing is made for a start that stopped");
-}
+        kurvo.CheckKad->click();
+        QCOMPARE(school.drives.bytes(tak), QByteArray("\"00\"\r\n"));
+        QTest::mouseClick(kurvo.TabloAcKapa, Qt::LeftButton);
+        QCOMPARE(school.drives.bytes(tak), QByteArray("\"10\"\r\n"));
+        QVERIFY(kurvo.TABLO->isVisible() && kurvo.bslk[0]->isEnabled());
+        kurvo.CheckKad->click();
+        QTest::mouseClick(kurvo.TabloAcKapa, Qt::LeftButton);
+        QCOMPARE(school.drives.bytes(tak), QByteArray("\"01\"\r\n"));
+    }
+};
 
-void StartUpTest::closing_signs_off() {
-    const Office office;
-    launch::prepare(office.hand_over());
-    Office::add(programs_file, "prg", {{"KOD", "Kasa"}});
-    Program program;
-    QVERIFY(program.start());
-    QVERIFY(Office::runs("Kurvo"));
-    program.form().close();
-    QVERIFY(!program.session().termDbOpen && !program.session().termDb.is_open());
-    QVERIFY(!Office::runs("Kurvo"));
-    QVERIFY2(Office::runs("Kasa"), "the other programs of the suite go on");
-}
-
-void StartUpTest::closing_is_never_held_up_data() {
-    QTest::addColumn<QByteArray>("launcher_file");
-    QTest::newRow("missing") << QByteArray();
-    QTest::newRow("damaged") << QByteArray("no database at all");
-}
-
-void StartUpTest::closing_is_never_held_up() {
-    QFETCH(QByteArray, launcher_file);
-    const Office office;
-    launch::prepare(office.hand_over());
-    Program program;
-    QVERIFY(program.start());
-    QVERIFY(paths::remove(programs_file));
-    if (!launcher_file.isNull()) Office::write(programs_file, launcher_file);
-    QVERIFY(program.form().close());
-    QVERIFY(!program.session().termDbOpen);
-    QCOMPARE(Office::bytes(programs_file), launcher_file);
-}
-
-void StartUpTest::both_writers_of_the_flags() {
-    const Office office;
-    Office::student("2026", 7, "AYŞE");
-    Office::write(tak, "\"0\"\r\n");
-    launch::prepare(office.hand_over());
-    Program program;
-    QVERIFY(program.start());
-    Kurvo& kurvo = program.form();
-    QVERIFY(!kurvo.TABLO->isVisible() && !kurvo.bslk[0]->isEnabled());
-    QVERIFY(kurvo.CheckKad->isChecked());
-    QCOMPARE(Office::bytes(tak), QByteArray("\"0\"\r\n"));
-
-    kurvo.CheckKad->click();
-    QCOMPARE(Office::bytes(tak), QByteArray("\"00\"\r\n"));
-    QTest::mouseClick(kurvo.TabloAcKapa, Qt::LeftButton);
-    QCOMPARE(Office::bytes(tak), QByteArray("\"10\"\r\n"));
-    QVERIFY(kurvo.TABLO->isVisible() && kurvo.bslk[0]->isEnabled());
-    kurvo.CheckKad->click();
-    QTest::mouseClick(kurvo.TabloAcKapa, Qt::LeftButton);
-    QCOMPARE(Office::bytes(tak), QByteArray("\"01\"\r\n"));
-}
+static const Registered<StartUpTest> registered;
+#include "start_up_test.moc"

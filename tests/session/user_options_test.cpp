@@ -1,57 +1,31 @@
 #include "session/user_options.h"
 
-#include "office.h"
-#include "session_tests.h"
+#include "known_session.h"
+#include "support/run_all.h"
 
-#include <QTest>
+class UserOptionsTest : public QObject {
+    Q_OBJECT
 
-namespace {
+private slots:
+    void options_by_position() {
+        School school;
+        SessionContext session = known_session(school);
+        const auto options = [&] {
+            read_user_options(session);
+            return QStringList{session.forceTodayOnPosting, session.upperCaseNames, session.mayChangeFees};
+        };
+        const std::pair<QString, QStringList> stored[]{
+            {"1011", {"1", "1", "1"}}, {"0110", {"0", "1", "0"}}, {"10", {"1", "", ""}}, {"", {"", "", ""}}};
+        for (const auto& [text, expected] : stored) {
+            school.user("AYLIN", text);
+            QCOMPARE(options(), expected);
+        }
+        session.userCode = "CAN";
+        QCOMPARE(options(), (QStringList{"0", "", ""}));          // no record of this user
+        school.add("users", {{"KOD", "CAN"}, {"DKOD", "0110"}});  // not as rich text
+        QCOMPARE(options(), (QStringList{"0", "1", "0"}));
+    }
+};
 
-void store_options(const QString& user, const QString& value) {
-    Office::add(Office::data(QStringLiteral("kbase.mdb")), "users", {{"KOD", user}, {"DKOD", value}});
-}
-
-QStringList options(const SessionContext& session) {
-    return {session.forceTodayOnPosting, session.upperCaseNames, session.mayChangeFees};
-}
-
-}  // namespace
-
-void UserOptionsTest::options_by_position_data() {
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("plain") << "0110" << QStringList{"0", "1", "0"};
-    QTest::newRow("short") << "10" << QStringList{"1", "", ""};
-    QTest::newRow("empty") << "" << QStringList{"", "", ""};
-    QTest::newRow("rich text box")
-        << QStringLiteral(R"({\rtf1\ansi\ansicpg1254\deff0{\fonttbl{\f0\fnil\fcharset162 MS Sans Serif;}})"
-                          "\r\n"
-                          R"(\viewkind4\uc1\pard\lang1055\f0\fs17 1011)"
-                          "\r\n"
-                          R"(\par })")
-        << QStringList{"1", "1", "1"};
-    QTest::newRow("word processor")
-        << QStringLiteral(
-               R"({\rtf1\ansi\deff3\adeflang1025{\fonttbl{\f0\froman\fprq2\fcharset0 Times New Roman;}}{\colortbl;\red0\green0\blue0;})"
-               R"({\stylesheet{\s0\snext0\nowidctlpar Normal;}}{\*\generator LibreOffice/7.4}{\info{\author 9999}{\creatim\yr2026\mo9\dy1}})"
-               R"(\pgndec\pard\plain \s0{\rtlch\ltrch\loch 1}{\b\cf1 00}{\*\bkmkstart a9}1\par })")
-        << QStringList{"1", "0", "1"};
-}
-
-void UserOptionsTest::options_by_position() {
-    QFETCH(QString, stored);
-    const Office office;
-    store_options(QStringLiteral("CAN"), stored);
-    SessionContext session = office.session();
-    session.userCode = QStringLiteral("CAN");
-    read_user_options(session);
-    QTEST(options(session), "expected");
-}
-
-void UserOptionsTest::user_without_record() {
-    const Office office;
-    SessionContext session = office.session();
-    session.userCode = QStringLiteral("YOK");
-    read_user_options(session);
-    QCOMPARE(options(session), (QStringList{"0", "", ""}));
-}
+static const Registered<UserOptionsTest> registered;
+#include "user_options_test.moc"

@@ -1,10 +1,8 @@
-#include "store_tests.h"
 #include "support/run_all.h"
 #include "workstation.h"
 
 // With a role on the command line this program is the second workstation of a test.
 int main(int argc, char** argv) {
     if (argc > 3 && argv[1] == std::string_view("--workstation")) return run_workstation(argc, argv);
-    return run_all<SeekTest, OrderTest, CursorTest, ConversionTest, FieldsTest, FileTest, SharingTest, ModelTest>(argc,
-                                                                                                                 argv);
+    return run_all(argc, argv);
 }

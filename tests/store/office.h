@@ -3,6 +3,7 @@
 
 #include "store/record.h"
 #include "support/drives.h"
+#include "support/refusal.h"
 
 #include <QTest>
 
@@ -36,17 +37,6 @@ inline QStringList walk(store::Recordset& records, std::string_view field) {
     QStringList texts;
     store::scan_all(records, [&] { texts << records[field].text(); });
     return texts;
-}
-
-// What a failing action says; an empty text where it does not fail.
-template <typename Action>
-QString failure_of(Action action) {
-    try {
-        action();
-    } catch (const std::exception& failure) {
-        return QString::fromUtf8(failure.what());
-    }
-    return {};
 }
 
 // The code of a failing action; no error where it does not fail.

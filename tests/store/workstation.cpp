@@ -16,7 +16,9 @@ namespace {
 
 constexpr int patience = 60000;  // ms
 
-void say(const char* word) { std::cout << word << std::endl; }
+void say(const char* word) {
+    std::cout << word << std::endl;
+}
 
 void await_word() {
     std::string word;
@@ -35,17 +37,17 @@ void hold(const QString& file) {
     odeme.Update();
 }
 
-// So many rows in a scope that they do not fit in memory; then waits in the middle of it.
+// So much in a scope that it does not fit in memory; then waits in the middle of it.
 void fill(const QString& file) {
     auto database = store::OpenDatabase(file);
-    auto devam = database.OpenRecordset("Devam");
+    auto excuses = database.OpenRecordset("Dmazeret");
     auto odeme = database.OpenRecordset("Odeme");
     store::WriteScope scope(database);
     odeme.Edit();
     odeme["TUTAR"] = 778;
     odeme.Update();
-    for (int i = 0; i < 60000; ++i)
-        add(devam, {{"ONO", i * 7919 % 60000}, {"TARIH", "20261001"}, {"DKOD", "01"}, {"IZINLI", i}});
+    const QString long_excuse(10000, u'x');
+    for (int i = 0; i < 4000; ++i) add(excuses, {{"ONO", i}, {"TARIH", "20261001"}, {"ACK", long_excuse}});
     say("held");
     await_word();
     scope.commit();

@@ -1,20 +1,41 @@
-// The main routine of a folder's test program: runs every test class in turn.
+// How a folder's test program finds and runs its test classes, each a QObject with private slots. A test file holds one
+// class and lists it by itself:
+//
+//   static const Registered<PathsTest> registered;
+//   #include "paths_test.moc"
 #pragma once
 
-#include <QApplication>
 #include <QTest>
 
-// KURVO_TEST_MAIN(PathsTest, NumbersTest): each class is a QObject with private slots. Names on the command line pick test
-// functions and are tried in every class, as QtTest has them.
-template <typename... Tests>
-int run_all(int argc, char** argv) {
-    QApplication application(argc, argv);
-    application.setAttribute(Qt::AA_Use96Dpi);
-    int failed = 0;
-    const auto run = [&](QObject&& test) { failed += QTest::qExec(&test, argc, argv); };
-    (run(Tests{}), ...);
-    return failed == 0 ? 0 : 1;
+#include <vector>
+
+inline std::vector<int (*)(int, char**)>& registered_tests() {
+    static std::vector<int (*)(int, char**)> tests;
+    return tests;
 }
 
-#define KURVO_TEST_MAIN(...) \
-    int main(int argc, char** argv) { return run_all<__VA_ARGS__>(argc, argv); }
+template <typename Test>
+struct Registered {
+    Registered() {
+        registered_tests().push_back([](int argc, char** argv) {
+            Test test;
+            return QTest::qExec(&test, argc, argv);
+        });
+    }
+};
+
+// Runs every listed class; 1 where one failed. The main routine of a program that defines none of its own does this.
+// Names on the command line pick test functions and are tried in every class, as QtTest has them.
+int run_all(int argc, char** argv);
+
+template <typename... Tests>
+int run_these(int argc, char** argv) {
+    (Registered<Tests>(), ...);
+    return run_all(argc, argv);
+}
+
+// A main routine for classes that do not list themselves.
+#define KURVO_TEST_MAIN(...)                       \
+    int main(int argc, char** argv) {              \
+        return run_these<__VA_ARGS__>(argc, argv); \
+    }

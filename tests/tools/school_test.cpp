@@ -3,90 +3,80 @@
 #include "platform/paths.h"
 #include "platform/rich_text.h"
 #include "rows.h"
-#include "tool_tests.h"
-
-#include <QTest>
-
-using namespace Qt::StringLiterals;
+#include "support/drives.h"
 
 namespace {
 
-QStringList files_below(const Drives& drives) {
-    QStringList names;
-    for (const QString& folder : {u"c/okul/data"_s, u"c/qlm"_s})
-        names += QDir(drives.path(folder)).entryList(QDir::Files);
-    return names;
-}
+const QString users = QStringLiteral("c:\\okul\\data\\kbase.mdb");
 
-QString plain_of(const QString& file, const char* table, const QString& key, const QString& field) {
-    for (const rows::Record& record : rows::all(file, table))
-        if (record[u"KOD"_s].text() == key) return rich_text::plain(record[field].text());
-    return u"no row"_s;
+QStringList files_below(const Drives& drives) {
+    return QDir(drives.path("c/okul/data")).entryList(QDir::Files) + QDir(drives.path("c/qlm")).entryList(QDir::Files);
 }
 
 }  // namespace
 
-void SchoolTest::makes_every_file_with_its_tables() {
-    school::create(u"c:\\okul"_s, {u"2025"_s, u"2026"_s});
-    QCOMPARE(files_below(*drives_), QStringList({u"2025ogr.mdb"_s, u"2026ogr.mdb"_s, u"Bilgi.mdb"_s, u"Dsys.mdb"_s,
-                                                 u"kbase.mdb"_s, u"Psys.mdb"_s}));
-    QCOMPARE(school::terms_of(school::default_root), QStringList({u"2025"_s, u"2026"_s}));
-    store::Database term = store::OpenDatabase(rows::term);
-    for (const char* table :
-         {"Ogrenci", "Sinif", "Odeme", "Tahsilat", "Devam", "EtudDevam", "Dmazeret", "Emazeret", "Etud"})
-        QVERIFY2(!term.OpenRecordset(table).has_rows(), table);
-    QCOMPARE(term.OpenRecordset("Ogrenci").definition().fields.size(), 85U);
-    QVERIFY(QDir(drives_->path(u"c/okul/foto"_s)).exists());
-}
+class SchoolTest : public QObject {
+    Q_OBJECT
 
-void SchoolTest::refuses_an_existing_file_and_makes_nothing() {
-    drives_->put(u"c/okul/data/kbase.mdb"_s, "of somebody");
-    const QString words = rows::refusal([] { school::create(school::default_root, {u"2026"_s}); });
-    QVERIFY2(words.contains(u"c:\\okul\\data\\kbase.mdb"_s), qPrintable(words));
-    QCOMPARE(files_below(*drives_), QStringList(u"kbase.mdb"_s));
-    QCOMPARE(drives_->bytes(u"c/okul/data/kbase.mdb"_s), QByteArray("of somebody"));
-}
+private slots:
+    void makes_every_file_with_its_tables() {
+        const Drives drives;
+        school::create("c:\\okul", {"2025", "2026"});
+        QCOMPARE(files_below(drives),
+                 QStringList({"2025ogr.mdb", "2026ogr.mdb", "Bilgi.mdb", "Dsys.mdb", "kbase.mdb", "Psys.mdb"}));
+        QCOMPARE(school::terms_of(rows::root), QStringList({"2025", "2026"}));
+        const QString tables = table_copy::overview(rows::term);
+        for (const char* part : {"Ogrenci: 0 kayıt", "Sinif: 0", "Odeme: 0", "Tahsilat: 0", "Devam: 0", "EtudDevam: 0",
+                                 "Dmazeret: 0", "Emazeret: 0", "Etud: 0", "ADSOY", "dizin OVTX: ONO, VADE, TARIH, SAAT",
+                                 "dizin TSX: TARIH, SAAT (yinelenebilir)"})
+            QVERIFY2(tables.contains(part), part);
+        QVERIFY(QDir(drives.path("c/okul/foto")).exists());
 
-void SchoolTest::takes_back_what_it_made_when_a_file_fails() {
-    QDir().mkpath(drives_->path(u"c/okul/data/2026ogr.mdb/full"_s));
-    QVERIFY(!rows::refusal([] { school::create(school::default_root, {u"2025"_s, u"2026"_s}); }).isEmpty());
-    QCOMPARE(files_below(*drives_), QStringList());
-}
+        QCOMPARE(school::version_of(rows::root), "21.1");
+        for (const auto& [user, options] : {std::pair("AYLA", "1011"), {"ÖMER", "0000"}, {"AYLA", "0010"}})
+            school::set_user(rows::root, user, options);
+        QStringList stored;
+        for (const rows::Record& user : rows::all(users, "users"))
+            stored += user["KOD"].text() + '|' + rich_text::plain(user["DKOD"].text());
+        QCOMPARE(stored, QStringList({"AYLA|0010", "ÖMER|0000"}));
+    }
 
-void SchoolTest::adds_a_term_to_an_old_school_alone() {
-    school::create(school::default_root, {u"2026"_s});
-    school::set_user(school::default_root, u"AYLA"_s, u"1011"_s);
-    const QByteArray users = rows::dump(u"c:\\okul\\data\\kbase.mdb"_s, u"users"_s);
-    school::add_terms(school::default_root, {u"2027"_s});
-    QCOMPARE(school::terms_of(school::default_root), QStringList({u"2026"_s, u"2027"_s}));
-    QCOMPARE(rows::dump(u"c:\\okul\\data\\kbase.mdb"_s, u"users"_s), users);
+    void leaves_nothing_behind_when_it_fails() {
+        const Drives drives;
+        drives.put("c/okul/data/kbase.mdb", "of somebody");
+        const QString words = refusal([] { school::create(rows::root, {"2026"}); });
+        QVERIFY2(words.contains(users), qPrintable(words));
+        QCOMPARE(files_below(drives), QStringList("kbase.mdb"));
+        QCOMPARE(drives.bytes("c/okul/data/kbase.mdb"), QByteArray("of somebody"));
+        QFile::remove(drives.path("c/okul/data/kbase.mdb"));
+        QDir().mkpath(drives.path("c/okul/data/2026ogr.mdb/full"));
+        QVERIFY(!refusal([] { school::create(rows::root, {"2025", "2026"}); }).isEmpty());
+        QCOMPARE(files_below(drives), QStringList());
+    }
 
-    const QString words = rows::refusal([] { school::add_terms(school::default_root, {u"2028"_s, u"2026"_s}); });
-    QVERIFY2(words.contains(u"2026ogr.mdb"_s), qPrintable(words));
-    QVERIFY(!school::terms_of(school::default_root).contains(u"2028"_s));
+    void adds_to_an_old_school() {
+        const Drives drives;
+        school::create(rows::root, {"2026"});
+        school::set_user(rows::root, "AYLA", "1011");
+        table_copy::load(school::programs_file, "prg", "KOD\nKasa\n", false);
+        const QByteArray before = rows::dump(users, "users");
+        school::add_terms(rows::root, {"2027"});
+        QCOMPARE(school::terms_of(rows::root), QStringList({"2026", "2027"}));
+        QCOMPARE(rows::dump(users, "users"), before);
 
-    QFile::remove(drives_->path(u"c/okul/data/Dsys.mdb"_s));
-    const QString missing = rows::refusal([] { school::add_terms(school::default_root, {u"2029"_s}); });
-    QVERIFY2(missing.contains(u"Dsys.mdb"_s), qPrintable(missing));
-}
+        const QString words = refusal([] { school::add_terms(rows::root, {"2028", "2026"}); });
+        QVERIFY2(words.contains("2026ogr.mdb"), qPrintable(words));
+        QVERIFY(!school::terms_of(rows::root).contains("2028"));
+        QFile::remove(drives.path("c/okul/data/Dsys.mdb"));
+        const QString missing = refusal([] { school::add_terms(rows::root, {"2029"}); });
+        QVERIFY2(missing.contains("Dsys.mdb"), qPrintable(missing));
 
-void SchoolTest::a_second_school_keeps_the_running_programs() {
-    school::create(school::default_root, {u"2026"_s});
-    table_copy::load(school::programs_file, u"prg"_s, "KOD\nKasa\n", false);
-    school::create(u"\\\\sunucu\\okul2\\"_s, {u"2026"_s});
-    QCOMPARE(rows::dump(school::programs_file, u"prg"_s), QByteArray("KOD\r\nKasa\r\n"));
-    QVERIFY(paths::exists(u"\\\\sunucu\\okul2\\data\\2026ogr.mdb"_s));
-}
+        // A second school on another machine keeps the running programs of this one.
+        school::create("\\\\sunucu\\okul2\\", {"2026"});
+        QCOMPARE(rows::dump(school::programs_file, "prg"), QByteArray("KOD\r\nKasa\r\n"));
+        QVERIFY(paths::exists("\\\\sunucu\\okul2\\data\\2026ogr.mdb"));
+    }
+};
 
-void SchoolTest::stamps_the_version_and_sets_users() {
-    school::create(school::default_root, {u"2026"_s});
-    QCOMPARE(school::version_of(school::default_root), u"21.1"_s);
-    QCOMPARE(plain_of(u"c:\\okul\\data\\Dsys.mdb"_s, "SBtab", u"RMA"_s, u"SB1"_s), u"21.1"_s);
-    const QString users = u"c:\\okul\\data\\kbase.mdb"_s;
-    school::set_user(school::default_root, u"AYLA"_s, u"1011"_s);
-    school::set_user(school::default_root, u"ÖMER"_s, u"0000"_s);
-    school::set_user(school::default_root, u"AYLA"_s, u"0010"_s);
-    QCOMPARE(rows::all(users, "users").size(), 2);
-    QCOMPARE(plain_of(users, "users", u"AYLA"_s, u"DKOD"_s), u"0010"_s);
-    QCOMPARE(plain_of(users, "users", u"ÖMER"_s, u"DKOD"_s), u"0000"_s);
-}
+static const Registered<SchoolTest> registered;
+#include "school_test.moc"

@@ -1,138 +1,79 @@
 #include "table_copy.h"
 
 #include "rows.h"
-#include "school.h"
-#include "tool_tests.h"
+#include "support/school.h"
 
-#include <QTest>
+class TableCopyTest : public QObject {
+    Q_OBJECT
 
-using namespace Qt::StringLiterals;
+private slots:
+    void dumps_in_the_order_asked_for() {
+        const School school;
+        table_copy::load(rows::term, "Etud",
+                         "ONO,TARIH,SAAT,KONU\n2,20261001,0900,a\n1,20261003,0900,b\n1,20261002,1000,c\n", false);
+        const auto topics = [](const QString& index) {
+            QByteArray result;
+            for (const QByteArray& line : rows::dump(rows::term, "Etud", index).trimmed().split('\n').mid(1))
+                result += line.trimmed().back();
+            return result;
+        };
+        QCOMPARE(topics({}), "cba");
+        QCOMPARE(topics("OTSX"), "cba");
+        QCOMPARE(topics("TSX"), "acb");
+        QVERIFY(!refusal([] { rows::dump(rows::term, "Etud", "YOKX"); }).isEmpty());
+    }
 
-namespace {
+    void what_is_dumped_loads_as_the_same() {
+        const School school;
+        const QByteArray first = "MT,Matematik\r\n", second = "CG,\"Coğrafya, \"\"seçmeli\"\"\"\r\n",
+                         third = "TR,\"\"\r\n", fourth = "FZ,\r\n", fifth = "ZZ,\"iki\r\nsatır\"\r\n";
+        const QByteArray head = "KOD,TANIM\r\n", expected = head + second + fourth + first + third + fifth;
+        QCOMPARE(table_copy::load(rows::reference, "Ders", head + first + second + third + fourth + fifth, false), 5);
+        QCOMPARE(rows::dump(rows::reference, "Ders"), expected);
+        table_copy::load(rows::reference, "Ders", expected, true);
+        QCOMPARE(rows::dump(rows::reference, "Ders"), expected);
 
-const QByteArray lessons =
-    "KOD,TANIM\r\n"
-    "MT,Matematik\r\n"
-    "CG,\"Coğrafya, \"\"seçmeli\"\"\"\r\n"
-    "TR,\"\"\r\n"
-    "FZ,\r\n"
-    "ZZ,\"iki\r\nsatır\"\r\n";
+        for (const QByteArray number : {"0", "-1", "0.1", "1234567.89", "-0.000001", "123456789012345683968",
+                                        "0.30000000000000004", "9007199254740993"}) {
+            const QByteArray text = "ONO,VADE,TUTAR\r\n1,20261001," + number + "\r\n";
+            table_copy::load(rows::term, "Odeme", text, true);
+            QCOMPARE(rows::all(rows::term, "Odeme").first()["TUTAR"].number(), number.toDouble());
+            QVERIFY(rows::all(rows::term, "Odeme").first()["ODSEK"].is_null());
+            // Nothing but the digits that are needed, where a double holds the number exactly.
+            const QByteArray dumped = rows::dump(rows::term, "Odeme");
+            if (number != "9007199254740993") QVERIFY2(dumped.contains("," + number + ","), dumped.constData());
+            table_copy::load(rows::term, "Odeme", dumped, true);
+            QCOMPARE(rows::dump(rows::term, "Odeme"), dumped);
+        }
+    }
 
-int load(const QString& table, const QByteArray& text, bool empty_first = false) {
-    return table_copy::load(rows::reference, table, text, empty_first);
-}
+    void refuses_whole_and_names_line_and_field() {
+        School school;
+        school.teacher(9, "ÖMER IŞIK");
+        const QByteArray before = rows::dump(rows::reference, "Ogretmen");
+        const std::pair<QByteArray, QStringList> texts[]{{"SICIL,ADI\n1,x\n", {"1. satır", "ADI"}},
+                                                         {"SICIL,ADSOY,SICIL\n1,x,2\n", {"1. satır", "SICIL"}},
+                                                         {"", {"1. satır"}},
+                                                         {"SICIL,ADSOY\n1,x\nbir,y\n", {"3. satır", "SICIL", "bir"}},
+                                                         {"SICIL,ADSOY\n\"\",y\n", {"2. satır", "SICIL"}},
+                                                         {"SICIL,ADSOY\n 7,y\n", {"2. satır", "SICIL"}},
+                                                         {"SICIL,ADSOY\n1.5,y\n", {"2. satır", "SICIL"}},
+                                                         {"SICIL,ADSOY\n2147483648,y\n", {"2. satır", "SICIL"}},
+                                                         {"SICIL,ADSOY\n1,x\n2\n", {"3. satır", "ADSOY"}},
+                                                         {"SICIL,ADSOY\n1,x,y\n", {"2. satır", "y"}},
+                                                         {"SICIL,ADSOY\n1,\"x\ny\"\n5,z\n1,y\n", {"5. satır", "SICIL"}},
+                                                         {"SICIL,ADSOY\n8,x\n9,y\n", {"3. satır", "SICIL"}}};
+        for (const auto& [text, named] : texts) {
+            const QString words = refusal([&] { table_copy::load(rows::reference, "Ogretmen", text, false); });
+            for (const QString& name : named) QVERIFY2(words.contains(name), qPrintable(words));
+            QCOMPARE(rows::dump(rows::reference, "Ogretmen"), before);
+        }
+        QVERIFY(!refusal([] { table_copy::load(rows::reference, "Ogretmen", "SICIL\n1\nx\n", true); }).isEmpty());
+        QCOMPARE(rows::dump(rows::reference, "Ogretmen"), before);
+        table_copy::load(rows::reference, "Ogretmen", "SICIL,ADSOY\n9,c\n", true);
+        QCOMPARE(rows::dump(rows::reference, "Ogretmen"), QByteArray("SICIL,ADSOY\r\n9,c\r\n"));
+    }
+};
 
-}  // namespace
-
-void TableCopyTest::initTestCase() {
-    drives_.emplace();
-    school::create(school::default_root, {u"2026"_s});
-}
-
-void TableCopyTest::init() {
-    for (const char* header : {"Ders KOD", "Ogretmen SICIL", "Belgeno SERI"})
-        load(QString::fromLatin1(header).section(u' ', 0, 0), QByteArray(header).split(' ').last() + "\n", true);
-    for (const QString& table : {u"Etud"_s, u"Odeme"_s}) table_copy::load(rows::term, table, "ONO\n", true);
-}
-
-void TableCopyTest::dumps_in_the_order_asked_for() {
-    table_copy::load(rows::term, u"Etud"_s,
-                     "ONO,TARIH,SAAT,KONU\n2,20261001,0900,a\n1,20261003,0900,b\n1,20261002,1000,c\n", false);
-    const auto topics = [](const QString& index) {
-        QString result;
-        const QList<QByteArray> lines = rows::dump(rows::term, u"Etud"_s, index).trimmed().split('\n');
-        for (const QByteArray& line : lines.mid(1)) result += QString::fromUtf8(line.trimmed()).section(u',', -1);
-        return result;
-    };
-    QCOMPARE(topics({}), u"cba"_s);
-    QCOMPARE(topics(u"OTSX"_s), u"cba"_s);
-    QCOMPARE(topics(u"TSX"_s), u"acb"_s);
-    QVERIFY(!rows::refusal([] { rows::dump(rows::term, u"Etud"_s, u"YOKX"_s); }).isEmpty());
-}
-
-void TableCopyTest::what_is_dumped_loads_as_the_same() {
-    QCOMPARE(load(u"Ders"_s, lessons), 5);
-    // The order of the codes: CG, FZ, MT, TR, ZZ.
-    const QByteArray expected =
-        "KOD,TANIM\r\n"
-        "CG,\"Coğrafya, \"\"seçmeli\"\"\"\r\n"
-        "FZ,\r\n"
-        "MT,Matematik\r\n"
-        "TR,\"\"\r\n"
-        "ZZ,\"iki\r\nsatır\"\r\n";
-    QCOMPARE(rows::dump(rows::reference, u"Ders"_s), expected);
-    load(u"Ders"_s, expected, true);
-    QCOMPARE(rows::dump(rows::reference, u"Ders"_s), expected);
-}
-
-void TableCopyTest::numbers_keep_every_digit_data() {
-    QTest::addColumn<QByteArray>("number");
-    for (const char* number : {"0", "-1", "1250", "0.1", "1234567.89", "-0.000001", "123456789012345683968",
-                               "0.30000000000000004", "9007199254740993"})
-        QTest::newRow(number) << QByteArray(number);
-}
-
-void TableCopyTest::numbers_keep_every_digit() {
-    QFETCH(QByteArray, number);
-    const QByteArray text = "ONO,VADE,TUTAR,ODENEN,ACK,ODSEK,CYER\r\n1,20261001," + number + ",,,,\r\n";
-    table_copy::load(rows::term, u"Odeme"_s, text, false);
-    const QByteArray dumped = rows::dump(rows::term, u"Odeme"_s);
-    table_copy::load(rows::term, u"Odeme"_s, dumped, true);
-    QCOMPARE(rows::dump(rows::term, u"Odeme"_s), dumped);
-    QCOMPARE(rows::all(rows::term, "Odeme").first()[u"TUTAR"_s].number(), number.toDouble());
-    // Nothing but the digits that are needed, where a double holds the number exactly.
-    if (number != "9007199254740993") QVERIFY2(dumped.contains("," + number + ","), dumped.constData());
-}
-
-void TableCopyTest::missing_columns_are_null() {
-    load(u"Belgeno"_s, "SERI\nM\n");
-    const QList<rows::Record> series = rows::all(rows::reference, "Belgeno");
-    QCOMPARE(series.size(), 1);
-    QVERIFY(series.first()[u"SNO"_s].is_null());
-}
-
-void TableCopyTest::refuses_whole_and_names_line_and_field_data() {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QStringList>("named");
-    const auto row = [](const char* name, const QByteArray& text, const QStringList& named) {
-        QTest::newRow(name) << text << named;
-    };
-    row("unknown field", "SICIL,ADI\n1,x\n", {u"1. satır"_s, u"ADI"_s});
-    row("field twice", "SICIL,ADSOY,SICIL\n1,x,2\n", {u"1. satır"_s, u"SICIL"_s});
-    row("no header", "", {u"1. satır"_s});
-    row("letters for a number", "SICIL,ADSOY\n1,x\nbir,y\n", {u"3. satır"_s, u"SICIL"_s, u"bir"_s});
-    row("empty text for a number", "SICIL,ADSOY\n\"\",y\n", {u"2. satır"_s, u"SICIL"_s});
-    row("blank before a number", "SICIL,ADSOY\n 7,y\n", {u"2. satır"_s, u"SICIL"_s});
-    row("decimals for a whole number", "SICIL,ADSOY\n1.5,y\n", {u"2. satır"_s, u"SICIL"_s});
-    row("too large", "SICIL,ADSOY\n2147483648,y\n", {u"2. satır"_s, u"SICIL"_s});
-    row("one field short", "SICIL,ADSOY\n1,x\n2\n", {u"3. satır"_s, u"ADSOY"_s});
-    row("one field too many", "SICIL,ADSOY\n1,x,y\n", {u"2. satır"_s, u"y"_s});
-    row("key twice, behind a text of two lines", "SICIL,ADSOY\n1,\"x\ny\"\n5,z\n1,y\n", {u"5. satır"_s, u"SICIL"_s});
-    row("key that is there", "SICIL,ADSOY\n8,x\n9,y\n", {u"3. satır"_s, u"SICIL"_s});
-}
-
-void TableCopyTest::refuses_whole_and_names_line_and_field() {
-    QFETCH(QByteArray, text);
-    QFETCH(QStringList, named);
-    load(u"Ogretmen"_s, "SICIL,ADSOY\n9,ÖMER IŞIK\n");
-    const QByteArray before = rows::dump(rows::reference, u"Ogretmen"_s);
-    const QString words = rows::refusal([&] { load(u"Ogretmen"_s, text); });
-    for (const QString& name : named) QVERIFY2(words.contains(name), qPrintable(words));
-    QCOMPARE(rows::dump(rows::reference, u"Ogretmen"_s), before);
-}
-
-void TableCopyTest::empties_first_when_asked() {
-    load(u"Ogretmen"_s, "SICIL,ADSOY\n9,a\n10,b\n");
-    const QByteArray before = rows::dump(rows::reference, u"Ogretmen"_s);
-    QVERIFY(!rows::refusal([] { load(u"Ogretmen"_s, "SICIL\n1\nx\n", true); }).isEmpty());
-    QCOMPARE(rows::dump(rows::reference, u"Ogretmen"_s), before);
-    load(u"Ogretmen"_s, "SICIL,ADSOY\n9,c\n", true);
-    QCOMPARE(rows::dump(rows::reference, u"Ogretmen"_s), QByteArray("SICIL,ADSOY\r\n9,c\r\n"));
-}
-
-void TableCopyTest::lists_tables_with_fields_and_indexes() {
-    const QString text = table_copy::overview(rows::term);
-    for (const QString& part : {u"Ogrenci: 0 kayıt"_s, u"dizin OVTX: ONO, VADE, TARIH, SAAT"_s,
-                                u"dizin TSX: TARIH, SAAT (yinelenebilir)"_s, u"ADSOY"_s})
-        QVERIFY2(text.contains(part), qPrintable(part));
-}
+static const Registered<TableCopyTest> registered;
+#include "table_copy_test.moc"

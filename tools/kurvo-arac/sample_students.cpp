@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/rich_text.h"
 #include "sample_lists.h"
+#include "store/conversion.h"
 
 #include <algorithm>
 
@@ -164,8 +165,7 @@ void write_family(store::Recordset& row, const Student& student, Random random) 
 // Rows hold one blank where a text is empty.
 void write_blanks(store::Recordset& row) {
     for (const store::FieldDef& field : row.definition().fields) {
-        const bool text = field.type == store::FieldType::text || field.type == store::FieldType::memo;
-        row[field.name] = text ? store::Value(none) : store::Value(0);
+        row[field.name] = store::is_text(field.type) ? store::Value(none) : store::Value(0);
     }
     row["SAVBEL"] = u"0"_s;
 }

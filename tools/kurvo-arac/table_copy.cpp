@@ -1,8 +1,8 @@
 #include "table_copy.h"
 
 #include "csv.h"
+#include "store/conversion.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <stdexcept>
@@ -18,21 +18,8 @@ constexpr qsizetype piece = 64 * 1024;
     throw std::runtime_error(u"%1. satır, %2 alanı: %3"_s.arg(line).arg(field, words).toStdString());
 }
 
-// The shortest decimal text that reads back as the same number, never with an exponent.
-QString digits(double number) {
-    std::array<char, 400> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
-    return QString::fromLatin1(buffer.data(), static_cast<qsizetype>(end.ptr - buffer.data()));
-}
-
 std::optional<QString> as_text(const store::Value& value) {
-    if (value.is_null()) return std::nullopt;
-    if (const auto* number = std::get_if<double>(&value.raw())) return digits(*number);
-    return value.text();
-}
-
-bool holds_text(store::FieldType type) {
-    return type == store::FieldType::text || type == store::FieldType::memo;
+    return value.is_null() ? std::nullopt : std::optional(value.text());
 }
 
 QString type_word(const store::FieldDef& field) {
@@ -62,7 +49,7 @@ std::optional<Number> parsed(const QString& text) {
 
 store::Value value_of(const csv::Field& field, const store::FieldDef& definition) {
     if (!field.text) return {};
-    if (holds_text(definition.type)) return *field.text;
+    if (store::is_text(definition.type)) return *field.text;
     const QString name = QString::fromStdString(definition.name);
     if (definition.type == store::FieldType::number) {
         const auto number = parsed<double>(*field.text);

@@ -1,0 +1,166 @@
+// A student's card with the open instalments, for two students in turn, so that every text changes each time.
+#include "bare_form.h"
+#include "benches.h"
+#include "platform/paths.h"
+#include "raw_store.h"
+#include "rich_student.h"
+#include "running_program.h"
+
+#include <QImageReader>
+#include <QKeyEvent>
+#include <QStandardItemModel>
+#include <QTableView>
+
+#include <algorithm>
+#include <array>
+
+namespace bench {
+
+namespace {
+
+constexpr int instalments = 12;
+constexpr int payments = 20;
+constexpr RowCounts rows{instalments, payments, 100, 20};
+constexpr int cards = 10;  // of each run
+
+struct Pictured {
+    double number;
+    QString photo;
+};
+
+// Two students with a photograph.
+std::array<Pictured, 2> two_students() {
+    std::array<Pictured, 2> chosen;
+    store::Database term = store::OpenDatabase(BigSchool::term_file);
+    store::Recordset students = term.OpenRecordset("Ogrenci");
+    std::size_t count = 0;
+    store::scan_all(students, [&] {
+        const QString photo = students["RESIM"].text().trimmed();
+        if (!photo.isEmpty()) chosen[count++] = {students["ONO"].number(), photo};
+        return count < chosen.size();
+    });
+    if (count < chosen.size()) throw std::runtime_error("the school has too few photographs");
+    return chosen;
+}
+
+// Reads what the card shows and puts it into the same labels and an ordinary table.
+class BareCard {
+public:
+    BareCard();
+    void show(const Pictured& student);
+
+private:
+    QString text(int column) const { return QString::fromStdString(row_.text(column)); }
+    void show_labels();
+    void show_instalments(double student);
+    void show_picture(const QString& photo);
+
+    BareForm form_;
+    QTableView view_;
+    QStandardItemModel cells_{0, 6};
+    RawFile term_{BigSchool::term_file};
+    RawStatement row_ = term_.prepare(
+        "SELECT ADSOY, SINIF, KAYTAR, VATNO, TEL, VELI, VTEL, VGSM, ANNE, AEVTEL, AGSMTEL, BABA, BEVTEL, BGSMTEL, "
+        "GELOKUL, OKULNO, ACK, GRUP, BOLUM, DIN, VELI, ADRES1, ADRES2, AILCE, AIL, AYYER, SAKLA, RESIM "
+        "FROM Ogrenci WHERE ONO=?");
+    RawStatement class_ = term_.prepare("SELECT ACK FROM Sinif WHERE SINIF=?");
+    RawStatement plan_ = term_.prepare(
+        "SELECT VADE, TUTAR, ODENEN, ODSEK, ACK, CYER FROM Odeme INDEXED BY \"Odeme.OVX\" WHERE ONO=? ORDER BY VADE");
+};
+
+BareCard::BareCard() {
+    view_.setModel(&cells_);
+    form_.show();
+    view_.show();
+    QCoreApplication::processEvents();
+}
+
+void BareCard::show(const Pictured& student) {
+    form_.LONO->setText(QString::number(student.number, 'f', 0));
+    row_.bind(1, student.number).step();
+    show_picture(student.photo);
+    show_labels();
+    row_.reset();
+    show_instalments(student.number);
+}
+
+void BareCard::show_labels() {
+    class_.bind(1, row_.text(1)).step();
+    form_.LSNF->setText(text(1) + QString::fromStdString(class_.text(0)));
+    class_.reset();
+    form_.LADSOYAD->setText(text(0));
+    QLabel* const labels[] = {form_.LKAYTAR,  form_.LTCNO,   form_.LTEL,  form_.LVELI, form_.LVTEL,  form_.LVGSM,
+                              form_.LANNE,    form_.LATEL,   form_.LAGSM, form_.LBABA, form_.LBTEL,  form_.LBGSM,
+                              form_.LGELOKUL, form_.LOKULNO, form_.LACK,  form_.LGRUP, form_.LBOLUM, form_.LDIN};
+    int column = 2;
+    for (QLabel* label : labels) label->setText(text(column++));
+    for (QLineEdit* box : {form_.fADSOY, form_.fADRES1, form_.fADRES2, form_.fILCE, form_.fIL})
+        box->setText(text(column++));
+    for (; column <= 27; ++column) keep(row_.text(column));
+}
+
+void BareCard::show_instalments(double student) {
+    double amount = 0, paid = 0;
+    cells_.setRowCount(0);
+    plan_.bind(1, student);
+    while (plan_.step()) {
+        const int row = cells_.rowCount();
+        cells_.insertRow(row);
+        for (int column = 0; column < 6; ++column)
+            cells_.setItem(row, column, new QStandardItem(QString::fromStdString(plan_.text(column))));
+        amount += plan_.number(1);
+        paid += plan_.number(2);
+    }
+    plan_.reset();
+    form_.TTUTAR->setText(QString::number(amount));
+    form_.TODENEN->setText(QString::number(paid));
+    form_.TBORC->setText(QString::number(amount - paid));
+}
+
+void BareCard::show_picture(const QString& photo) {
+    QImageReader reader(paths::native(photo));
+    reader.setScaledSize(reader.size().scaled(form_.Image1->contentsRect().size(), Qt::KeepAspectRatio));
+    form_.Image1->setPixmap(QPixmap::fromImage(reader.read()));
+}
+
+void press_enter(QWidget& box) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    QCoreApplication::sendEvent(&box, &press);
+}
+
+}  // namespace
+
+void measure_card(Table& table, const BigSchool& school) {
+    const std::string act = "ogrenci_goster, 12 instalments, 20 payments";
+    if (!table.wants(act)) return;
+    std::array<Pictured, 2> students = two_students();
+    for (const Pictured& student : students) give_rows(student.number, rows);
+    RunningProgram program(school);
+    for (Pictured& student : students) student.photo = program->session().photoFolder + student.photo;
+    Kurvo& form = program->form();
+    BareCard bare;
+
+    int shown = 0;
+    const auto next = [&]() -> const Pictured& { return students[static_cast<std::size_t>(shown++ % 2)]; };
+    const auto show_cards = [&] {
+        for (int i = 0; i < cards; ++i) {
+            form.LONO->setText(QString::number(next().number, 'f', 0));
+            press_enter(*form.LONO);
+        }
+    };
+    const auto show_bare_cards = [&] {
+        for (int i = 0; i < cards; ++i) bare.show(next());
+    };
+    show_cards();
+    if (form.FTahsil_Tablo2->rows() != instalments) throw std::runtime_error("the card does not show the plan");
+    // What is painted afterwards is the same for both and is left out.
+    const auto run = [](const std::function<void()>& work) {
+        const Seconds taken = timed(work, cards);
+        QCoreApplication::processEvents();
+        return taken;
+    };
+    table.compare(
+        act, 2, [&] { return run(show_cards); }, [&] { return run(show_bare_cards); });
+}
+
+}  // namespace bench

@@ -1,0 +1,33 @@
+// kurvo-bench [PART OF A ROW'S NAME]: prints what the program takes for its acts beside the least they could take.
+#include "benches.h"
+#include "forms/look.h"
+#include "platform/slots.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
+    QApplication application(argc, argv);
+    look::apply(application);
+    // Nobody is there to press the button of the critical box.
+    fatal::set_handler([](const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        std::_Exit(1);
+    });
+    try {
+        bench::Table table(argc > 1 ? argv[1] : "");
+        const bench::BigSchool school(QApplication::applicationDirPath() + QStringLiteral("/.."));
+        for (const auto measure :
+             {bench::measure_store, bench::measure_list, bench::measure_card, bench::measure_start,
+              bench::measure_posting, bench::measure_search, bench::measure_record_form, bench::measure_renumbering})
+            measure(table, school);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
+    return 0;
+}

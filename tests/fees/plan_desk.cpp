@@ -1,0 +1,112 @@
+#include "plan_desk.h"
+
+#include "fees/payment_forms.h"
+
+#include <QTest>
+
+namespace {
+
+const QString term_file = QStringLiteral("c:\\okul\\data\\2026ogr.mdb");
+const QString reference_file = QStringLiteral("c:\\okul\\data\\Bilgi.mdb");
+constexpr int student = 1250;
+
+QPoint place_of(const GridView& grid, int row) {
+    return grid.viewport()->mapFrom(grid.parentWidget(), grid.cell_rect(row, 1).center());
+}
+
+}  // namespace
+
+PlanDesk::Office::Office() {
+    QDir().mkpath(drives.path(QStringLiteral("c/okul/data")));
+    store::create_file(term_file, store::catalogue(store::FileKind::term));
+    store::create_file(reference_file, store::catalogue(store::FileKind::reference));
+}
+
+PlanDesk::PlanDesk(const std::vector<Instalment>& instalments)
+    : clock_([] { return QDateTime(QDate(2026, 11, 24), QTime(9, 30)); }),
+      plan(form, session,
+           {[this] { return student_stored; },
+            [this] {
+                rows_when_stored = rows();
+                student_stored = true;
+            }}),
+      bus_service(form, session) {
+    for (const Instalment& row : instalments) instalment(student, row);
+    for (const int neighbour : {1249, 1251}) instalment(neighbour, {QStringLiteral("20261001"), 77});
+    session.dataRoot = QStringLiteral("c:\\okul\\");
+    session.termCode = QStringLiteral("2026");
+    session.termDb = store::OpenDatabase(term_file);
+    form.ODSEK->addItems(payment_forms());
+    form.ONO->setText(QString::number(student));
+    form.ADSOY->setText(QStringLiteral("AYŞE"));
+    form.KTUTAR->setText(QStringLiteral("10.000"));
+    form.resize(1366, 768);
+    form.show();
+    if (!QTest::qWaitForWindowActive(&form)) qFatal("the form does not come up");
+    plan.taksit_listele();
+}
+
+void PlanDesk::add(const QString& file, std::string_view table,
+                   std::initializer_list<std::pair<std::string_view, store::Value>> fields) {
+    store::Database database = store::OpenDatabase(file);
+    store::Recordset records = database.OpenRecordset(table);
+    records.AddNew();
+    for (const auto& [name, value] : fields) records[name] = value;
+    records.Update();
+}
+
+void PlanDesk::instalment(int number, const Instalment& row) {
+    add(term_file, "Odeme",
+        {{"ONO", number},
+         {"VADE", row.vade},
+         {"TUTAR", row.tutar},
+         {"ODENEN", row.odenen},
+         {"ACK", "elden"},
+         {"ODSEK", row.odsek},
+         {"CYER", " "}});
+}
+
+void PlanDesk::price(const QString& kind, const QString& code, double amount) {
+    add(reference_file, "Fiyat", {{"TUR", kind}, {"KOD", code}, {"DEGER", amount}, {"TANIM", " "}});
+}
+
+void PlanDesk::bus(int route, int stop, const QString& text) {
+    add(reference_file, "Servis", {{"SNO", route}, {"DRK", stop}, {"ACK", text}});
+}
+
+QStringList PlanDesk::rows() const {
+    store::Database term = store::OpenDatabase(term_file);
+    store::Recordset odeme = term.OpenRecordset("Odeme");
+    QStringList all;
+    store::scan_prefix(odeme, {student}, [&] {
+        all << odeme["VADE"].text() + u' ' + odeme["TUTAR"].text() + u'/' + odeme["ODENEN"].text();
+    });
+    return all;
+}
+
+QString PlanDesk::row(const QString& vade, std::string_view field) const {
+    store::Database term = store::OpenDatabase(term_file);
+    store::Recordset odeme = term.OpenRecordset("Odeme");
+    odeme.Seek("=", {student, vade});
+    return odeme[field].text();
+}
+
+void PlanDesk::enter(const QString& vade, const QString& amount) {
+    form.VADE->set_key(vade);
+    form.TUTAR->setFocus();
+    form.TUTAR->clear();
+    QTest::keyClicks(form.TUTAR, amount);
+}
+
+void PlanDesk::double_click_row(int row) const {
+    click_row(row);
+    QTest::mouseDClick(form.TABLO2->viewport(), Qt::LeftButton, {}, place_of(*form.TABLO2, row));
+}
+
+void PlanDesk::click(const GridView& grid, int row) {
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place_of(grid, row));
+}
+
+void PlanDesk::press(QAbstractButton* button) {
+    QTest::mouseClick(button, Qt::LeftButton);
+}

@@ -1,0 +1,99 @@
+#include "clerk.h"
+
+#include "platform/slots.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QTest>
+
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList papers_in(const QDir& folder) {
+    return folder.entryList({u"*.pdf"_s}, QDir::Files, QDir::Time | QDir::Reversed);
+}
+
+}  // namespace
+
+void must(bool seen, const QString& words) {
+    if (!seen) throw std::runtime_error(words.toStdString());
+}
+
+Clerk::Clerk(Office& office, const QString& folder)
+    : office_(office), folder_(folder), older_papers_(papers_in(folder_)) {
+    fatal::set_handler([this](const std::exception& error) { failure_ += QString::fromUtf8(error.what()); });
+    must(program_.start(), u"the program does not start"_s);
+    must(QTest::qWaitForWindowActive(&kurvo()), u"the form does not come up"_s);
+}
+
+Clerk::~Clerk() {
+    fatal::set_handler({});
+}
+
+void Clerk::reach(QWidget* control) {
+    must(control->isVisible(), control->objectName() + u" is not to be seen"_s);
+    must(control->isEnabled(), control->objectName() + u" is locked"_s);
+    control->activateWindow();
+    must(QTest::qWaitForWindowActive(control->window()), u"the window is not active"_s);
+}
+
+// A check box or an option button answers only on its sign and its words.
+void Clerk::press(QAbstractButton* button) {
+    reach(button);
+    const bool is_sign = qobject_cast<QCheckBox*>(button) != nullptr || qobject_cast<QRadioButton*>(button) != nullptr;
+    const QPoint at = is_sign ? QPoint(button->height() / 2, button->height() / 2) : button->rect().center();
+    QTest::mouseClick(button, Qt::LeftButton, {}, at);
+}
+
+void Clerk::type(QLineEdit* box, const QString& text, Qt::Key then) {
+    reach(box);
+    box->setFocus(Qt::MouseFocusReason);
+    box->selectAll();
+    for (const QChar letter : text) QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, letter, {});
+    if (then != Qt::Key_unknown) QTest::keyClick(box, then);
+}
+
+QWidget& Clerk::window() {
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr ? *active : kurvo();
+}
+
+void Clerk::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QWidget* focus = QApplication::focusWidget();
+    QTest::keyClick(focus != nullptr ? focus : &window(), key, modifiers);
+}
+
+void Clerk::click_cell(GridView& grid, int row, int column) {
+    reach(&grid);
+    must(row < grid.rows(), grid.objectName() + u" has no such row"_s);
+    grid.set_current(row, column);
+    const QPoint place = grid.viewport()->mapFrom(grid.parentWidget(), grid.cell_rect(row, column).center());
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place);
+}
+
+void Clerk::resize(const QSize& size) {
+    window().resize(size);
+    QCoreApplication::sendPostedEvents();
+}
+
+QString Clerk::picture(const QString& name) {
+    const QString file = folder_.filePath(u"%1-%2.png"_s.arg(++pictures_, 2, 10, QChar(u'0')).arg(name));
+    must(window().grab().save(file), file + u" cannot be written"_s);
+    return file;
+}
+
+QStringList Clerk::papers() const {
+    QStringList names = papers_in(folder_);
+    names.removeIf([this](const QString& name) { return older_papers_.contains(name); });
+    return names;
+}
+
+void Clerk::check_quiet() {
+    must(failure_.isEmpty(), failure_);
+    const QStringList wrong = prompts_.failures();
+    must(wrong.isEmpty(), wrong.join(u"; "));
+}
