@@ -6,9 +6,11 @@
 #include "forms/typing_limit.h"
 #include "platform/screen_units.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QScrollBar>
 
 #include <type_traits>
@@ -18,7 +20,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int caption_width = 132;
-constexpr int inner_caption_width = 84;  // of a second control in its row
+constexpr int inner_caption_width = 84;   // of a second control in its row
+constexpr QSize comfortable(1900, 980);   // all blocks without scrolling
 constexpr int three_columns_from = 1800;  // pixels of page width
 
 QLabel* caption_label(const QString& text, const QString& control) {
@@ -70,7 +73,13 @@ KurvoYeni::KurvoYeni(QWidget* parent) : QWidget(parent, Qt::Window) {
     captions::name_fields(this);
     captions::tell_shortcuts(this);
     set_tab_order();
+    // Wherever the work leads the focus, by Tab or by the program, its control comes into sight.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now != nullptr && page_contents->isAncestorOf(now)) page->ensureWidgetVisible(now);
+    });
     DefaultButtonRule::watch(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keep_in_sight(now); });
+    resize(screen()->availableSize().boundedTo(comfortable));
     wide_ = true;
     arrange_columns();
 }
@@ -122,7 +131,9 @@ void KurvoYeni::make_controls() {
         figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
-QWidget* KurvoYeni::control(const QString& name) const { return controls_.at(name); }
+QWidget* KurvoYeni::control(const QString& name) const {
+    return controls_.at(name);
+}
 
 void KurvoYeni::build_blocks() {
     std::map<record_layout::Column, QVBoxLayout*> columns;
@@ -179,8 +190,8 @@ void KurvoYeni::build_family() {
         grid->addWidget(caption_label(caption_of(names[0]), names[0]), row, 0);
         for (int parent = 0; parent < 2; ++parent) {
             grid->addWidget(control(names[parent]), row, parent + 1);
-            control(names[parent])->setAccessibleName((parent == 0 ? u"Annesi"_s : u"Babası"_s) +
-                                                      caption_of(names[parent]));
+            control(names[parent])
+                ->setAccessibleName((parent == 0 ? u"Annesi"_s : u"Babası"_s) + caption_of(names[parent]));
         }
         ++row;
     }
@@ -259,7 +270,9 @@ void KurvoYeni::set_tab_order() {
     for (std::size_t i = 1; i < reading_order_.size(); ++i) setTabOrder(reading_order_[i - 1], reading_order_[i]);
 }
 
-void KurvoYeni::status(const QString& text) { status_line->setText(text); }
+void KurvoYeni::status(const QString& text) {
+    status_line->setText(text);
+}
 
 void KurvoYeni::closeEvent(QCloseEvent* event) {
     event->accept();
@@ -277,6 +290,18 @@ void KurvoYeni::keyPressEvent(QKeyEvent* event) {
 void KurvoYeni::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     arrange_columns();
+    // Once the page has its new layout.
+    QMetaObject::invokeMethod(
+        this, [this] { keep_in_sight(focusWidget()); }, Qt::QueuedConnection);
+}
+
+// A control that gets the focus by a key or by the program comes into sight on a low screen. Nothing moves under a
+// pressed mouse button, whose click would be lost.
+void KurvoYeni::keep_in_sight(QWidget* control) {
+    if (control == nullptr || !page_contents->isAncestorOf(control) || QApplication::mouseButtons() != Qt::NoButton)
+        return;
+    if (Frame3->isAncestorOf(control)) page->ensureWidgetVisible(TABLO2, 0, 0);
+    page->ensureWidgetVisible(Frame3->isAncestorOf(control) ? Frame3 : control);
 }
 
 // Family and payments stand as a third column where there is room, and below the two others where there is not.

@@ -90,6 +90,7 @@ private:
     void set_tab_order();
     void arrange_columns();
     void place_plan_panel();
+    void keep_in_sight(QWidget* control);
     void limit_typing();
     QWidget* control(const QString& name) const;
 

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 
-OverlayFrame::OverlayFrame(QWidget* parent) : QFrame(parent) { setAutoFillBackground(true); }
+OverlayFrame::OverlayFrame(QWidget* parent) : QFrame(parent) {
+    setAutoFillBackground(true);
+}
 
 bool OverlayFrame::event(QEvent* event) {
     if (event->type() == QEvent::ShowToParent && parentWidget() != nullptr) {

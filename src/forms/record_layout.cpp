@@ -59,9 +59,9 @@ const std::vector<Block>& blocks() {
 
 const std::vector<QStringList>& family_rows() {
     static const std::vector<QStringList> rows{
-        {u"ANNE"_s, u"BABA"_s},         {u"AMESLEK"_s, u"BMESLEK"_s},   {u"AOKUL"_s, u"BOKUL"_s},
-        {u"AISYERI"_s, u"BISYERI"_s},   {u"AISADRES"_s, u"BISADRES"_s}, {u"AISTEL"_s, u"BISTEL"_s},
-        {u"AEVTEL"_s, u"BEVTEL"_s},     {u"AGSMTEL"_s, u"BGSMTEL"_s},
+        {u"ANNE"_s, u"BABA"_s},       {u"AMESLEK"_s, u"BMESLEK"_s},   {u"AOKUL"_s, u"BOKUL"_s},
+        {u"AISYERI"_s, u"BISYERI"_s}, {u"AISADRES"_s, u"BISADRES"_s}, {u"AISTEL"_s, u"BISTEL"_s},
+        {u"AEVTEL"_s, u"BEVTEL"_s},   {u"AGSMTEL"_s, u"BGSMTEL"_s},
     };
     return rows;
 }

@@ -9,7 +9,9 @@ namespace typing_limit {
 
 namespace {
 
-qsizetype all_characters(const QString& text) { return text.size(); }
+qsizetype all_characters(const QString& text) {
+    return text.size();
+}
 
 qsizetype telephone_characters(const QString& text) {
     return std::ranges::count_if(text, [](QChar c) { return c != u' ' && c != u'.' && c != u','; });
@@ -28,7 +30,11 @@ void limit_typing(QLineEdit* box, int limit, qsizetype (*count)(const QString&))
 
 }  // namespace
 
-void set(QLineEdit* box, int limit) { limit_typing(box, limit, all_characters); }
-void set_telephone(QLineEdit* box, int limit) { limit_typing(box, limit, telephone_characters); }
+void set(QLineEdit* box, int limit) {
+    limit_typing(box, limit, all_characters);
+}
+void set_telephone(QLineEdit* box, int limit) {
+    limit_typing(box, limit, telephone_characters);
+}
 
 }  // namespace typing_limit

@@ -31,17 +31,21 @@ void clear_exception(KurvoYeni& form, const RecordField& field) {
 void show(KurvoYeni& form, const RecordField& field, const store::Value& stored) {
     switch (field.kind) {
         case FieldKind::text:
-        case FieldKind::number: return show_text(*control_as<QLineEdit>(field, form), stored.text());
+        case FieldKind::number:
+            return show_text(*control_as<QLineEdit>(field, form), stored.text());
         case FieldKind::rich_text:
             return show_text(*control_as<QLineEdit>(field, form), rich_text::plain(stored.text()));
-        case FieldKind::date: return control_as<DatePicker>(field, form)->set_key(stored.text());
+        case FieldKind::date:
+            return control_as<DatePicker>(field, form)->set_key(stored.text());
         case FieldKind::position:
         case FieldKind::position_text:
             return control_as<QComboBox>(field, form)->setCurrentIndex(static_cast<int>(stored.whole_number()));
         case FieldKind::check:
-        case FieldKind::check_text: return control_as<QCheckBox>(field, form)->setChecked(stored.whole_number() != 0);
+        case FieldKind::check_text:
+            return control_as<QCheckBox>(field, form)->setChecked(stored.whole_number() != 0);
         case FieldKind::exception:
-        case FieldKind::untouched: return;
+        case FieldKind::untouched:
+            return;
     }
 }
 
@@ -50,20 +54,33 @@ void write(const KurvoYeni& form, const RecordField& field, store::Recordset& ro
     const auto place = [&] { return control_as<QComboBox>(field, form)->currentIndex(); };
     const auto checked = [&] { return control_as<QCheckBox>(field, form)->isChecked() ? 1 : 0; };
     switch (field.kind) {
-        case FieldKind::text: row[field.field] = text(); return;
-        case FieldKind::rich_text: row[field.field] = rich_text::from_plain(text()); return;
-        case FieldKind::number: row[field.field] = numbers::val(text()); return;
-        case FieldKind::date: row[field.field] = control_as<DatePicker>(field, form)->key(); return;
+        case FieldKind::text:
+            row[field.field] = text();
+            return;
+        case FieldKind::rich_text:
+            row[field.field] = rich_text::from_plain(text());
+            return;
+        case FieldKind::number:
+            row[field.field] = numbers::val(text());
+            return;
+        case FieldKind::date:
+            row[field.field] = control_as<DatePicker>(field, form)->key();
+            return;
         case FieldKind::position:
             if (place() >= 0) row[field.field] = place();
             return;
         case FieldKind::position_text:
             if (place() >= 0) row[field.field] = QString::number(place());
             return;
-        case FieldKind::check: row[field.field] = checked(); return;
-        case FieldKind::check_text: row[field.field] = QString::number(checked()); return;
+        case FieldKind::check:
+            row[field.field] = checked();
+            return;
+        case FieldKind::check_text:
+            row[field.field] = QString::number(checked());
+            return;
         case FieldKind::exception:
-        case FieldKind::untouched: return;
+        case FieldKind::untouched:
+            return;
     }
 }
 
@@ -101,14 +118,25 @@ void clear(KurvoYeni& form) {
         switch (field.kind) {
             case FieldKind::text:
             case FieldKind::rich_text:
-            case FieldKind::number: control_as<QLineEdit>(field, form)->clear(); break;
-            case FieldKind::date: control_as<DatePicker>(field, form)->setDate(no_date); break;
+            case FieldKind::number:
+                control_as<QLineEdit>(field, form)->clear();
+                break;
+            case FieldKind::date:
+                control_as<DatePicker>(field, form)->setDate(no_date);
+                break;
             case FieldKind::position:
-            case FieldKind::position_text: clear_list(*control_as<QComboBox>(field, form), true); break;
+            case FieldKind::position_text:
+                clear_list(*control_as<QComboBox>(field, form), true);
+                break;
             case FieldKind::check:
-            case FieldKind::check_text: control_as<QCheckBox>(field, form)->setChecked(false); break;
-            case FieldKind::exception: clear_exception(form, field); break;
-            case FieldKind::untouched: break;
+            case FieldKind::check_text:
+                control_as<QCheckBox>(field, form)->setChecked(false);
+                break;
+            case FieldKind::exception:
+                clear_exception(form, field);
+                break;
+            case FieldKind::untouched:
+                break;
         }
     }
     form.KAYTAR->setDate(clock_source::today());

@@ -58,7 +58,7 @@ void RecordSaving::CommandKAYDET_Click() {
     const double number = record_.number();
     const QString saved = numbers::plain(number) + u' ' + form_.ADSOY->text().trimmed();
     ogrenci_yaz();
-    if (!session_.remoteSchoolKey.isEmpty() && record_.published_values_differ()) 
+    if (!session_.remoteSchoolKey.isEmpty() && record_.published_values_differ())
         publish_(static_cast<std::int64_t>(number));
     screen_.list.listeyi_yenile();
     screen_.show_student(numbers::plain(number));
@@ -146,8 +146,8 @@ void RecordSaving::write_exceptions(store::Recordset& row, const QString& school
 // The student has just left.
 void RecordSaving::ask_about_open_instalments() {
     if (!record_.eskiAyrilis.isEmpty() || form_.AYYER->text().trimmed().isEmpty()) return;
-    const bool still_owed = prompt::ask(
-        QStringLiteral("Kalan borçlar geçerli ise TAMAM, iptal edilecekse İPTAL tuşuna basınız."));
+    const bool still_owed =
+        prompt::ask(QStringLiteral("Kalan borçlar geçerli ise TAMAM, iptal edilecekse İPTAL tuşuna basınız."));
     if (!still_owed) cancel_open_instalments();
 }
 

@@ -20,8 +20,7 @@
 struct RecordWindow::Opening : QObject {
     explicit Opening(RecordWindow& window)
         : QObject(&window),
-          plan(form, window.session_,
-               {[this] { return record.kayitVar; }, [this] { saving.store_student(); }}),
+          plan(form, window.session_, {[this] { return record.kayitVar; }, [this] { saving.store_student(); }}),
           bus(form, window.session_),
           record(form, window.session_, [this] { plan.taksit_listele(); }),
           saving(form, window.session_, record, window.screen_, window.publishing_.publish),
@@ -60,10 +59,12 @@ void RecordWindow::CommandYENI_Click() {
     screen_.kurvo.setEnabled(false);
     opening_ = new Opening(*this);
     on(&opening_->form, &KurvoYeni::closed, this, [this] { form_closed(); });
-    // The record form stays above the main form, which cannot be used meanwhile.
+    // The record form stands in the main form's place and above it, since that one cannot be used meanwhile.
+    opening_->form.setGeometry(screen_.kurvo.window()->geometry());
     opening_->form.winId();
     opening_->form.windowHandle()->setTransientParent(screen_.kurvo.window()->windowHandle());
     opening_->record.open(numbers::val(screen_.kurvo.LONO->text()));
+    opening_->form.activateWindow();
 }
 
 // When the program ends with the main form, the form is closed behind a term that is closed already.

@@ -171,7 +171,7 @@ bool SqliteEngine::take_rows(SqliteStatement& statement, const ReadRequest& requ
         request.leading ? request.columns->slot_of(request.table.index_at(request.index).fields.front()) : -1;
     while (statement.step()) {
         result.rows.push_back(statement.whole(0));
-        for (int column = 1; column <= width; ++column) result.values.push_back(statement.value(column, texts_));
+        for (int column = 1; column <= width; ++column) statement.append(column, texts_, result.values);
         const std::size_t last = result.size() - 1;
         if (result.size() >= static_cast<std::size_t>(request.limit)) return false;
         if (request.leading && compare_keys(result.at(last, leading_slot), *request.leading) != 0) return false;

@@ -53,18 +53,21 @@ void SqliteStatement::run() {
     }
 }
 
-Value SqliteStatement::value(int column, ShortTexts& texts) const {
+void SqliteStatement::append(int column, ShortTexts& texts, std::vector<Value>& values) const {
     sqlite3_stmt* row = statement_.get();
     switch (sqlite3_column_type(row, column)) {
         case SQLITE_INTEGER:
-            return sqlite3_column_int64(row, column);
+            values.emplace_back(sqlite3_column_int64(row, column));
+            return;
         case SQLITE_FLOAT:
-            return sqlite3_column_double(row, column);
+            values.emplace_back(sqlite3_column_double(row, column));
+            return;
         case SQLITE_NULL:
-            return {};
+            values.emplace_back();
+            return;
         default: {
             const auto* utf8 = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
-            return texts.of({utf8, static_cast<std::size_t>(sqlite3_column_bytes(row, column))});
+            values.emplace_back(texts.of({utf8, static_cast<std::size_t>(sqlite3_column_bytes(row, column))}));
         }
     }
 }

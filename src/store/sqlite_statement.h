@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace store {
 
@@ -35,7 +36,8 @@ public:
     // Steps to the end; for statements whose rows nobody reads.
     void run();
 
-    Value value(int column, ShortTexts& texts) const;
+    // Adds the column's value behind the others.
+    void append(int column, ShortTexts& texts, std::vector<Value>& values) const;
     std::int64_t whole(int column) const { return sqlite3_column_int64(statement_.get(), column); }
     std::string text(int column) const;
 

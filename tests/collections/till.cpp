@@ -6,10 +6,10 @@
 #include <QDir>
 #include <QTest>
 
-const QString School::term_file = QStringLiteral("c:\\okul\\data\\2026ogr.mdb");
-const QString School::reference_file = QStringLiteral("c:\\okul\\data\\Bilgi.mdb");
+const QString TillFiles::term_file = QStringLiteral("c:\\okul\\data\\2026ogr.mdb");
+const QString TillFiles::reference_file = QStringLiteral("c:\\okul\\data\\Bilgi.mdb");
 
-School::School() {
+TillFiles::TillFiles() {
     qputenv("KURVO_DRIVES", folder_.path().toUtf8());
     qputenv("KURVO_PRINTER", "pdf:" + folder_.path().toUtf8() + "/papers");
     QDir(folder_.path()).mkpath(QStringLiteral("c/okul/data"));
@@ -19,14 +19,14 @@ School::School() {
     PrintSurface::set_observer([this](const PrintSurface::Document& paper) { papers.push_back(paper); });
 }
 
-School::~School() {
+TillFiles::~TillFiles() {
     fatal::set_handler({});
     PrintSurface::set_observer({});
     qunsetenv("KURVO_DRIVES");
     qunsetenv("KURVO_PRINTER");
 }
 
-void School::add(const QString& file, std::string_view table, Row fields) {
+void TillFiles::add(const QString& file, std::string_view table, Row fields) {
     store::Database database = store::OpenDatabase(file);
     store::Recordset records = database.OpenRecordset(table);
     records.AddNew();
@@ -34,7 +34,7 @@ void School::add(const QString& file, std::string_view table, Row fields) {
     records.Update();
 }
 
-void School::instalment(const QString& vade, double tutar, double odenen, int ono) {
+void TillFiles::instalment(const QString& vade, double tutar, double odenen, int ono) {
     add(term_file, "Odeme",
         {{"ONO", ono},
          {"VADE", vade},
@@ -45,7 +45,8 @@ void School::instalment(const QString& vade, double tutar, double odenen, int on
          {"CYER", " "}});
 }
 
-QStringList School::rows(const QString& file, std::string_view table, std::initializer_list<std::string_view> fields) {
+QStringList TillFiles::rows(const QString& file, std::string_view table,
+                            std::initializer_list<std::string_view> fields) {
     store::Database database = store::OpenDatabase(file);
     store::Recordset records = database.OpenRecordset(table);
     QStringList all;
@@ -57,8 +58,12 @@ QStringList School::rows(const QString& file, std::string_view table, std::initi
     return all;
 }
 
-// What start-up leaves for a user with the right to collect.
-void Till::set_up() {
+Till::Till(CollectionPapers papers)
+    : terms(kurvo, session),
+      statement(kurvo, session),
+      screen(kurvo, session, terms),
+      posting(kurvo, session, statement, screen, std::move(papers)) {
+    // What start-up leaves for a user with the right to collect.
     session.dataRoot = QStringLiteral("c:\\okul\\");
     session.termCode = QStringLiteral("2026");
     session.schoolName = QStringLiteral("ÖZEL IŞIK");
@@ -70,14 +75,6 @@ void Till::set_up() {
     kurvo.SDONEM->addItem(session.termCode);
     set_up_list(kurvo);
     set_up_panels(kurvo);
-}
-
-Till::Till(CollectionPapers papers)
-    : terms(kurvo, session),
-      statement(kurvo, session),
-      screen(kurvo, session, terms),
-      posting(kurvo, session, statement, screen, std::move(papers)) {
-    set_up();
     terms.open();
     kurvo.show();
     if (!QTest::qWaitForWindowActive(&kurvo)) qFatal("the form does not come up");
@@ -105,17 +102,9 @@ void Till::type(QLineEdit* box, const QString& keys) {
     }
 }
 
-void Till::type_amount(const QString& keys) {
-    type(kurvo.ODENEN, keys);
-}
-
 void Till::click_cell(GridView& grid, int row, int column) {
     const QPoint place = grid.viewport()->mapFrom(grid.parentWidget(), grid.cell_rect(row, column).center());
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place);
-}
-
-void Till::click_row(int row) {
-    click_cell(*kurvo.FTahsil_Tablo2, row, 1);
 }
 
 QStringList Till::marks() const {

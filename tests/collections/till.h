@@ -13,10 +13,12 @@
 #include <vector>
 
 // The files of one term in a temporary folder of drives. What a handler throws and what is printed is kept.
-class School {
+class TillFiles {
+    QTemporaryDir folder_;
+
 public:
-    School();
-    ~School();
+    TillFiles();
+    ~TillFiles();
 
     static const QString term_file, reference_file;
     static constexpr int student = 1250;
@@ -32,9 +34,6 @@ public:
 
     QStringList failures;
     std::vector<PrintSurface::Document> papers;
-
-private:
-    QTemporaryDir folder_;
 };
 
 class Till {
@@ -49,10 +48,10 @@ public:
     Posting posting;
 
     // What the card does with a number on file.
-    void pick(int number = School::student);
+    void pick(int number = TillFiles::student);
     // Into ODENEN, in place of what stands there; "<" is Backspace.
-    void type_amount(const QString& keys);
-    void click_row(int row);
+    void type_amount(const QString& keys) { type(kurvo.ODENEN, keys); }
+    void click_row(int row) { click_cell(*kurvo.FTahsil_Tablo2, row, 1); }
     // The first stage's rows: "X" and the amount, or nothing.
     QStringList marks() const;
     void begin_second_stage() { press(kurvo.CommandTAHSIL); }
@@ -62,7 +61,6 @@ public:
     void collect(const QString& amount, QRadioButton* option);
 
 private:
-    void set_up();
     void type(QLineEdit* box, const QString& keys);
     static void click_cell(GridView& grid, int row, int column);
 };

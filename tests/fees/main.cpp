@@ -1,4 +1,4 @@
 #include "fees_tests.h"
 #include "support/run_all.h"
 
-KURVO_TEST_MAIN(AmountInWordsTest, AutomaticPlanTest, InstalmentPlanTest, BusServiceTest, PromissoryNotesTest, ContractTest)
+KURVO_TEST_MAIN(AmountInWordsTest, AutomaticPlanTest, InstalmentPlanTest, PromissoryNotesTest, ContractTest)

@@ -2,12 +2,9 @@
 
 #include "fees/payment_forms.h"
 
-#include <QTest>
-
 namespace {
 
 const QString term_file = QStringLiteral("c:\\okul\\data\\2026ogr.mdb");
-const QString reference_file = QStringLiteral("c:\\okul\\data\\Bilgi.mdb");
 constexpr int student = 1250;
 
 QPoint place_of(const GridView& grid, int row) {
@@ -19,7 +16,6 @@ QPoint place_of(const GridView& grid, int row) {
 PlanDesk::Office::Office() {
     QDir().mkpath(drives.path(QStringLiteral("c/okul/data")));
     store::create_file(term_file, store::catalogue(store::FileKind::term));
-    store::create_file(reference_file, store::catalogue(store::FileKind::reference));
 }
 
 PlanDesk::PlanDesk(const std::vector<Instalment>& instalments)
@@ -29,8 +25,7 @@ PlanDesk::PlanDesk(const std::vector<Instalment>& instalments)
             [this] {
                 rows_when_stored = rows();
                 student_stored = true;
-            }}),
-      bus_service(form, session) {
+            }}) {
     for (const Instalment& row : instalments) instalment(student, row);
     for (const int neighbour : {1249, 1251}) instalment(neighbour, {QStringLiteral("20261001"), 77});
     session.dataRoot = QStringLiteral("c:\\okul\\");
@@ -46,32 +41,18 @@ PlanDesk::PlanDesk(const std::vector<Instalment>& instalments)
     plan.taksit_listele();
 }
 
-void PlanDesk::add(const QString& file, std::string_view table,
-                   std::initializer_list<std::pair<std::string_view, store::Value>> fields) {
-    store::Database database = store::OpenDatabase(file);
-    store::Recordset records = database.OpenRecordset(table);
-    records.AddNew();
-    for (const auto& [name, value] : fields) records[name] = value;
-    records.Update();
-}
-
 void PlanDesk::instalment(int number, const Instalment& row) {
-    add(term_file, "Odeme",
-        {{"ONO", number},
-         {"VADE", row.vade},
-         {"TUTAR", row.tutar},
-         {"ODENEN", row.odenen},
-         {"ACK", "elden"},
-         {"ODSEK", row.odsek},
-         {"CYER", " "}});
-}
-
-void PlanDesk::price(const QString& kind, const QString& code, double amount) {
-    add(reference_file, "Fiyat", {{"TUR", kind}, {"KOD", code}, {"DEGER", amount}, {"TANIM", " "}});
-}
-
-void PlanDesk::bus(int route, int stop, const QString& text) {
-    add(reference_file, "Servis", {{"SNO", route}, {"DRK", stop}, {"ACK", text}});
+    store::Database term = store::OpenDatabase(term_file);
+    store::Recordset odeme = term.OpenRecordset("Odeme");
+    odeme.AddNew();
+    odeme["ONO"] = number;
+    odeme["VADE"] = row.vade;
+    odeme["TUTAR"] = row.tutar;
+    odeme["ODENEN"] = row.odenen;
+    odeme["ACK"] = "elden";
+    odeme["ODSEK"] = row.odsek;
+    odeme["CYER"] = " ";
+    odeme.Update();
 }
 
 QStringList PlanDesk::rows() const {
@@ -98,15 +79,11 @@ void PlanDesk::enter(const QString& vade, const QString& amount) {
     QTest::keyClicks(form.TUTAR, amount);
 }
 
+void PlanDesk::click_row(int row) const {
+    QTest::mouseClick(form.TABLO2->viewport(), Qt::LeftButton, {}, place_of(*form.TABLO2, row));
+}
+
 void PlanDesk::double_click_row(int row) const {
     click_row(row);
     QTest::mouseDClick(form.TABLO2->viewport(), Qt::LeftButton, {}, place_of(*form.TABLO2, row));
-}
-
-void PlanDesk::click(const GridView& grid, int row) {
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place_of(grid, row));
-}
-
-void PlanDesk::press(QAbstractButton* button) {
-    QTest::mouseClick(button, Qt::LeftButton);
 }

@@ -1,11 +1,12 @@
 // A clerk at the plan of the record form: the real form on the files of one term, in a folder of its own.
 #pragma once
 
-#include "fees/bus_service.h"
 #include "fees/instalment_plan.h"
 #include "platform/clock.h"
 #include "platform/prompt.h"
 #include "support/drives.h"
+
+#include <QTest>
 
 #include <vector>
 
@@ -27,26 +28,20 @@ public:
     // Student 1250 with these instalments; 1249 and 1251 owe something too.
     explicit PlanDesk(const std::vector<Instalment>& instalments = {});
 
-    static void add(const QString& file, std::string_view table,
-                    std::initializer_list<std::pair<std::string_view, store::Value>> fields);
     static void instalment(int student, const Instalment& instalment);
-    static void price(const QString& kind, const QString& code, double amount);
-    static void bus(int route, int stop, const QString& text);
     // The instalments of student 1250, each as "VADE TUTAR/ODENEN".
     QStringList rows() const;
     QString row(const QString& vade, std::string_view field) const;
 
     void enter(const QString& vade, const QString& amount);  // into the entry row
-    void click_row(int row) const { click(*form.TABLO2, row); }
+    void click_row(int row) const;
     void double_click_row(int row) const;
-    static void click(const GridView& grid, int row);
-    static void press(QAbstractButton* button);
+    static void press(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
 
     KurvoYeni form;
     SessionContext session;
     bool student_stored = true;
     QStringList rows_when_stored;
     InstalmentPlan plan;
-    BusService bus_service;
     prompt::Script prompts;
 };

@@ -46,7 +46,8 @@ QString cut_captions(const QWidget& form, HeightCounts height_counts) {
     QString found;
     for (const QWidget* widget : form.findChildren<QWidget*>()) {
         const auto* label = qobject_cast<const QLabel*>(widget);
-        const bool says = label != nullptr ? !label->text().isEmpty() : qobject_cast<const QAbstractButton*>(widget);
+        const bool says =
+            label != nullptr ? !label->text().isEmpty() : qobject_cast<const QAbstractButton*>(widget) != nullptr;
         if (!says || !widget->isVisible() || qobject_cast<const ElidedLabel*>(widget)) continue;
         const QSize needed = widget->minimumSizeHint();
         if (widget->width() < needed.width() || (height_counts(widget) && widget->height() < needed.height()))

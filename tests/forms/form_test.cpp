@@ -63,10 +63,8 @@ private slots:
         QTest::mouseClick(form.CommandTAHSILAT, Qt::LeftButton);
         QVERIFY2(!form.CommandTAHSILAT->isChecked(), "a click that opened nothing leaves the button up");
         connect(form.CommandTAHSILAT, &QPushButton::clicked, &form, [&] { form.panel_goster(Kurvo::Panel::Tahsil); });
-        for (int click = 0; click < 2; ++click) {
-            QTest::mouseClick(form.CommandTAHSILAT, Qt::LeftButton);
-            QVERIFY(form.CommandTAHSILAT->isChecked());
-        }
+        for (int click = 0; click < 2; ++click) QTest::mouseClick(form.CommandTAHSILAT, Qt::LeftButton);
+        QVERIFY(form.CommandTAHSILAT->isChecked());
         form.panel_goster(Kurvo::Panel::SBUL);
         QVERIFY(!form.CommandTAHSILAT->isChecked() && form.CommandSBUL->isChecked());
         QVERIFY(form.Frame_SBUL->isVisible() && !form.Frame_Tahsil->isVisible());

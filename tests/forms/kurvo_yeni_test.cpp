@@ -144,6 +144,20 @@ private slots:
             QCOMPARE(conflicting_keys(panel->findChildren<QAbstractButton*>()), "");
     }
 
+    // On a low screen the page follows the focus, down to the fee and up again to the number.
+    void focus_stays_in_sight() {
+        Page form({1366, 700});
+        for (QWidget* control : std::initializer_list<QWidget*>{form.KTUTAR, form.ONO, form.OADET}) {
+            if (control == form.OADET) form.Frame3->show();
+            control->setFocus();
+            QCoreApplication::processEvents();
+            const QRect seen = form.page->viewport()->rect();
+            QVERIFY(seen.contains(control->mapTo(form.page->viewport(), control->rect().center())));
+        }
+        QVERIFY(form.page->viewport()->rect().contains(
+            form.VADE->mapTo(form.page->viewport(), form.VADE->rect().center())));
+    }
+
     void overlay_covers_the_page() {
         Page form;
         const QPoint at = place_in(form, *form.ADSOY).center();

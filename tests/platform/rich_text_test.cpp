@@ -22,8 +22,8 @@ const QString word = QStringLiteral(
     "{\\rtf1\\adeflang1025\\ansi\\ansicpg1252\\uc1\\deff31507{\\fonttbl{\\f0\\fbidi \\froman\\fcharset0\\fprq2"
     "{\\*\\panose 02020603050405020304}Times New Roman;}{\\f39\\fbidi \\fswiss\\fcharset162\\fprq2 Calibri;}}"
     "{\\colortbl;\\red0\\green0\\blue0;}{\\*\\defchp \\f39}{\\stylesheet{\\ql \\snext0 Normal;}}{\\info{\\title "
-    "Ba\\u351?l}"
-    "{\\author X}}{\\*\\generator Word;}{\\header \\pard bas\\par}\\pard\\plain \\ltrpar\\ql {\\rtlch \\ltrch\\f39 "
+    "Ba\\u351?l}{\\author X}}{\\*\\generator Word;}{\\header \\pard bas\\par}\\pard\\plain \\ltrpar\\ql {\\rtlch "
+    "\\ltrch\\f39 "
     "\\u214\\'d6denecek: \\u351\\'fe}{\\field{\\*\\fldinst {HYPERLINK \"x\"}}{\\fldrslt {\\f39\\ul ba\\'f0}}}"
     "{\\*\\shppict{\\pict\\pngblip 8950}}{\\nonshppict{\\pict 00ff}}\\par {\\f0 \\'fe\\u8364\\'80}\\line alt\\cell "
     "b\\row }");
@@ -116,27 +116,15 @@ private slots:
 
     void formatting_comes_back() {
         QTextDocument document;
-        QTextCursor cursor(&document);
-        const auto write = [&](const QString& text, auto change) {
-            QTextCharFormat format;
-            change(format);
-            cursor.insertText(text, format);
-        };
-        const auto paragraph = [&](Qt::Alignment side) {
-            QTextBlockFormat format;
-            format.setAlignment(side);
-            cursor.insertBlock(format);
-        };
-        write("düz ", [](auto&) {});
-        write("12 kalın\teğik", [](auto& f) { f.setFontWeight(QFont::Bold), f.setFontItalic(true); });
-        write("-5 {çizgili}\\", [](auto& f) { f.setFontUnderline(true), f.setFontStrikeOut(true); });
-        paragraph(Qt::AlignRight);
-        write("\u2028Ж😀 ", [](auto& f) { f.setFontFamilies({"Yazı; {1}"}), f.setFontPointSize(9.5); });
-        paragraph(Qt::AlignHCenter);
-        paragraph(Qt::AlignJustify);
-        write("renkli", [](auto& f) { f.setForeground(QColor(1, 128, 255)), f.setFontFamilies({"Arial"}); });
-        write("siyah", [](auto& f) { f.setForeground(QColor(Qt::black)), f.setFontFamilies({"Verdana"}); });
-
+        document.setHtml(
+            "<p>düz <b><i>12 kalın eğik</i></b><u><s>-5 {çizgili}\\</s></u></p><p align='right'>Ж😀</p>"
+            "<p align='center'>orta</p><p align='justify'><span "
+            "style='color:#0180ff;font-family:Arial;font-size:9.5pt'>"
+            "renkli</span><span style='color:#000000'>siyah</span></p>");
+        QCOMPARE(described(document).last(), "siyah|#000000");
+        QTextCharFormat odd;
+        odd.setFontFamilies({"Yazı; {1}"});
+        QTextCursor(&document).insertText("\u2028tab\t", odd);
         const QString value = rich_text::save(document);
         QVERIFY(all_ascii(value));
         QTextDocument again;

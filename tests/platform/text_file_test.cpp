@@ -50,16 +50,13 @@ private slots:
 
     void items() {
         const Drives drives;
-        const std::pair<QByteArray, QStringList> files[]{
-            {"\"Senet Yatay\",500,\"Senet Dikey\",200\r\n", {"Senet Yatay", "500", "Senet Dikey", "200"}},
-            {"1\r\n2,3\n4\r5", {"1", "2", "3", "4", "5"}},
-            {"\"a, b\", c ,\"\",\r\n", {"a, b", "c", "", ""}},
-            {",1,,2", {"", "1", "", "2"}},
-            {" \" a \" , b c ", {" a ", "b c"}},
-            {"1\r\n\r\n  \r\n2\r\n", {"1", "", "", "2"}},
-            {"5\" boru,2", {"5\" boru", "2"}},
-            {"\"a,b\r\n3", {"a,b", "3"}},
-            {"\"a\" x,2", {"a", "2"}}};
+        const std::pair<QByteArray, QStringList> files[]{{"1\r\n2,3\n4\r5", {"1", "2", "3", "4", "5"}},
+                                                         {"\"a, b\", c ,\"\",\r\n", {"a, b", "c", "", ""}},
+                                                         {" \" a \" , b c ", {" a ", "b c"}},
+                                                         {"1\r\n\r\n  \r\n2\r\n", {"1", "", "", "2"}},
+                                                         {"5\" boru,2", {"5\" boru", "2"}},
+                                                         {"\"a,b\r\n3", {"a,b", "3"}},
+                                                         {"\"a\" x,2", {"a", "2"}}};
         for (const auto& [bytes, items] : files) {
             drives.put(below, bytes);
             QCOMPARE(text_file::read_items(name), items);

@@ -13,16 +13,13 @@ private slots:
         const QStringList full{"21.1",    "c:\\okul\\", "IŞIK, MERKEZ", "2026",  "1",       "101010", "OYA",
                                "p:\\f\\", "10.0.0.1",   "okul",         "kurvo", "gizli,1", "ANK"};
         const std::pair<QByteArray, QStringList> files[]{
-            // One a line; all in one; more than 18 in lines of several; bare with empty lines among them.
+            // One a line; all in one; bare with empty lines among them.
             {"\"21.1\"\r\n\"r\"\r\n\"c:\\okul\\\"\r\n\"I\xDEIK, MERKEZ\"\r\n\"r\"\r\n\"2026\"\r\n\"r\"\r\n\"1\"\r\n"
              "\"r\"\r\n\"101010\"\r\n\"OYA\"\r\n\"r\"\r\n\"p:\\f\\\"\r\n\"10.0.0.1\"\r\n\"okul\"\r\n\"kurvo\"\r\n"
              "\"gizli,1\"\r\n\"ANK\"\r\n",
              full},
             {"21.1,\"r\",\"c:\\okul\\\",\"I\xDEIK, MERKEZ\",0,2026,\"\",1,0,101010,\"OYA\",,\"p:\\f\\\",10.0.0.1,okul,"
              "kurvo,\"gizli,1\",ANK",
-             full},
-            {"\"21.1\",\"r\"\n\"c:\\okul\\\",\"I\xDEIK, MERKEZ\",\"r\"\n2026,r\n1 , r\n\"101010\",OYA\nr,p:\\f\\\n"
-             "10.0.0.1,okul\nkurvo,\"gizli,1\",ANK\nr,r\n",
              full},
             {"\r\n\r\nc:\\okul\\\r\nI\xDEIK\r\n\r\n2026\r\n\r\n0\r\n\r\n111111\r\nOYA\r\n\r\np:"
              "\\\r\n\r\n\r\n\r\n\r\n\r\n",

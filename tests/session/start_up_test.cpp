@@ -46,13 +46,14 @@ class StartUpTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void form_comes_up_filled() {
+    void form_comes_up_filled_and_signs_off() {
         School school;
         school.add_term("2025");
         for (const int number : {1250, 7}) school.student(number).name("AYŞE");
         const QString scratch = "c:\\qlm\\siletud.mdb";
         for (const char* left_over : {"c/qlm/siletud.mdb", "c/qlm/siletud.mdb-journal"})
             school.drives.put(left_over, "x");
+        school.running_program("Kasa");
         Running run(school, {.version = "21.0", .remote_key = "ANK"});
         QVERIFY(run.started && run.kurvo.isVisible());
         QCOMPARE(run.kurvo.windowTitle(), QStringLiteral("  Öğrenci İşlemleri     21.0    (ANK)"));
@@ -66,6 +67,11 @@ private slots:
             QVERIFY2(!paths::exists(gone), qPrintable(gone));
         for (const QString& made : {school.data_file("Prmt.txt"), school.data_file("Fatura.txt")})
             QVERIFY2(paths::exists(made), qPrintable(made));
+
+        QCOMPARE(school.count("prg"), 2);
+        run.kurvo.close();
+        QVERIFY(!run.session.termDbOpen && !run.session.termDb.is_open());
+        QCOMPARE(school.rows("prg", {"KOD"}), QStringList("Kasa"));  // the other programs of the suite go on
     }
 
     void rights_place_the_buttons() {
@@ -122,16 +128,6 @@ private slots:
         QCOMPARE(rich_text::plain(school.row("SBtab", {"RMA"}).value("SB1")), QStringLiteral("20.9"));
         QVERIFY(!paths::exists(hand_over_file));
         QVERIFY2(!paths::exists(school.data_file("Prmt.txt")), "nothing is made for a start that stopped");
-    }
-
-    void closing_signs_off() {
-        School school;
-        school.running_program("Kasa");
-        Running run(school);
-        QCOMPARE(school.count("prg"), 2);
-        run.kurvo.close();
-        QVERIFY(!run.session.termDbOpen && !run.session.termDb.is_open());
-        QCOMPARE(school.rows("prg", {"KOD"}), QStringList("Kasa"));  // the other programs of the suite go on
     }
 
     void closing_without_the_launchers_list() {

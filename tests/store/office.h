@@ -7,9 +7,6 @@
 
 #include <QTest>
 
-#include <string_view>
-#include <utility>
-
 struct Office {
     Office() {
         QDir(drives.path("")).mkpath("c/okul");
@@ -18,6 +15,14 @@ struct Office {
 
     Drives drives;
     QString file = QStringLiteral("c:\\okul\\2026ogr.mdb");
+};
+
+// An office whose file is open with one of its tables.
+struct Desk : Office {
+    explicit Desk(std::string_view table = "Odeme") : rows(database.OpenRecordset(table)) {}
+
+    store::Database database = store::OpenDatabase(file);
+    store::Recordset rows;
 };
 
 using Fields = std::initializer_list<std::pair<std::string_view, store::Value>>;
@@ -30,6 +35,12 @@ inline void add(store::Recordset& records, Fields fields) {
 
 inline void add_instalment(store::Recordset& odeme, int ono, const store::Value& vade, int tutar) {
     add(odeme, {{"ONO", ono}, {"VADE", vade}, {"TUTAR", tutar}});
+}
+
+inline void set(store::Recordset& records, std::string_view field, const store::Value& value) {
+    records.Edit();
+    records[field] = value;
+    records.Update();
 }
 
 // A field of all rows in the order of the current index.

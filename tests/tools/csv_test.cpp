@@ -42,13 +42,6 @@ private slots:
             QVERIFY2(words.startsWith(expected), qPrintable(words));
         }
     }
-
-    void quotes_only_what_needs_it() {
-        QCOMPARE(csv::written(std::nullopt), "");
-        const std::pair<QString, QString> texts[]{{"", "\"\""},       {" ", " "},         {"İş; \\par", "İş; \\par"},
-                                                  {"a,b", "\"a,b\""}, {"\"", "\"\"\"\""}, {"\r", "\"\r\""}};
-        for (const auto& [text, written] : texts) QCOMPARE(csv::written(text), written);
-    }
 };
 
 static const Registered<CsvTest> registered;

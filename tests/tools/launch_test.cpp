@@ -10,20 +10,19 @@ class LaunchTest : public QObject {
 private slots:
     void writes_the_eighteen_items_and_the_running_program() {
         const Drives drives;
-        launch::HandOver values;
-        values.version = "21.1";
-        values.root = rows::root;
-        values.school = "ÖZEL IŞIK, ÇAĞ DERSHANESİ";
-        values.term = "2026";
-        values.hide_archived = "0";
-        values.rights = "110011";
-        values.user = "ŞULE";
-        values.photos = "c:\\okul\\foto\\";
-        values.remote_host = "10.0.0.5";
-        values.remote_database = "dizin";
-        values.remote_user = "okul";
-        values.remote_password = "p,w";
-        values.remote_key = "IZM01";
+        launch::HandOver values{"21.1",
+                                rows::root,
+                                "ÖZEL IŞIK, ÇAĞ DERSHANESİ",
+                                "2026",
+                                "0",
+                                "110011",
+                                "ŞULE",
+                                "c:\\okul\\foto\\",
+                                "10.0.0.5",
+                                "dizin",
+                                "okul",
+                                "p,w",
+                                "IZM01"};
         launch::prepare(values);
         // Ö = D6, I = 49, Ş = DE, Ç = C7, Ğ = D0, İ = DD in the code page.
         const QByteArray expected =

@@ -26,7 +26,7 @@ private slots:
     void what_is_dumped_loads_as_the_same() {
         const School school;
         const QByteArray first = "MT,Matematik\r\n", second = "CG,\"Coğrafya, \"\"seçmeli\"\"\"\r\n",
-                         third = "TR,\"\"\r\n", fourth = "FZ,\r\n", fifth = "ZZ,\"iki\r\nsatır\"\r\n";
+                         third = "TR,\"\"\r\n", fourth = "FZ, \\par\r\n", fifth = "ZZ,\"iki\r\nsatır\"\r\n";
         const QByteArray head = "KOD,TANIM\r\n", expected = head + second + fourth + first + third + fifth;
         QCOMPARE(table_copy::load(rows::reference, "Ders", head + first + second + third + fourth + fifth, false), 5);
         QCOMPARE(rows::dump(rows::reference, "Ders"), expected);

@@ -38,7 +38,9 @@ void Clerk::reach(QWidget* control) {
     must(control->isVisible(), control->objectName() + u" is not to be seen"_s);
     must(control->isEnabled(), control->objectName() + u" is locked"_s);
     control->activateWindow();
-    must(QTest::qWaitForWindowActive(control->window()), u"the window is not active"_s);
+    // A window counts as active while the one behind it is, so ask which one the keys really go to.
+    must(QTest::qWaitFor([&] { return QApplication::activeWindow() == control->window(); }),
+         u"the window is not active"_s);
 }
 
 // A check box or an option button answers only on its sign and its words.

@@ -2,6 +2,7 @@
 
 #include "launch.h"
 #include "platform/money.h"
+#include "platform/text_file.h"
 #include "sample.h"
 #include "school.h"
 #include "store/record.h"
@@ -16,14 +17,44 @@ namespace {
 constexpr std::uint64_t seed = 1;
 constexpr std::size_t enough_instalments = 4;
 
+// A quarter of a second passes at each look at the clock: a payment waits for a second that is still free, and two
+// walks see the same times.
 QDateTime present_moment() {
-    return {sample::school_year(school::default_term).today, QTime(10, 15)};
+    static int looks = 0;
+    return QDateTime(sample::school_year(school::default_term).today, QTime(10, 15)).addMSecs(250 * looks++);
 }
 
 void make_school() {
     school::create(school::default_root, {school::default_term});
     sample::fill_reference(school::default_root);
     sample::fill_term(school::default_root, school::default_term, seed, {});
+}
+
+// A preprinted form for the laser printer, one copy, 10 % VAT included: who pays at the left, number and date at the
+// right, the amounts below each other, each item on a line of its own.
+void draw_invoice_form() {
+    QStringList lines{u"\"Yazıcı tipi\",1,1,1,10"_s};
+    for (const int letter : {208, 240, 220, 252, 222, 254, 221, 253, 214, 246, 199, 231})
+        lines += QString::number(letter);
+    struct Item {
+        int code, line, column, second;
+    };
+    for (const Item& item : std::vector<Item>{{8, 3, 70, 0},
+                                              {9, 4, 70, 0},
+                                              {1, 6, 8, 0},
+                                              {3, 7, 8, 0},
+                                              {4, 8, 8, 0},
+                                              {5, 9, 8, 0},
+                                              {6, 10, 8, 0},
+                                              {7, 11, 8, 0},
+                                              {0, 14, 8, 0},
+                                              {10, 17, 8, 60},
+                                              {11, 28, 60, 0},
+                                              {12, 29, 60, 0},
+                                              {13, 30, 60, 0},
+                                              {14, 33, 8, 0}})
+        lines += u"\"%1\",%2,%3,%4"_s.arg(item.code).arg(item.line).arg(item.column).arg(item.second);
+    text_file::write_lines(school::default_root + u"data\\Fatura.txt"_s, lines);
 }
 
 void hand_over() {
@@ -45,6 +76,7 @@ Office::Office(const QString& papers) : clock_(present_moment) {
     qputenv("KURVO_DRIVES", drives_.path().toUtf8());
     qputenv("KURVO_PRINTER", "pdf:" + papers.toUtf8());
     make_school();
+    draw_invoice_form();
     hand_over();
 }
 

@@ -28,3 +28,5 @@ bool go(const Walk& walk, Clerk& clerk);
 
 // The walks, each in a file of its own and declared here; main does them one after the other on one school.
 Walk collection_walk(Clerk& clerk);
+Walk record_form_walk(Clerk& clerk);
+Walk invoice_walk(Clerk& clerk);
