@@ -33,10 +33,10 @@ struct Scheme {
     const char* warning;
 };
 
-constexpr Scheme light{"#F4F5F2", "#FFFFFF", "#FAFAF8", "#1E2326", "#5A6269",
-                       "#C6CAC4", "#FFFFFF", "#E8EEF4", "#D3E1EE", "#FFD6D2", "#B3261E"};
-constexpr Scheme dark{"#23282C", "#1A1E21", "#282E32", "#E6E8E6", "#A3ABB1",
-                      "#4A5157", "#30373C", "#3A444C", "#234A6E", "#7A2A26", "#FF8A80"};
+constexpr Scheme light{"#F4F5F2", "#FFFFFF", "#FAFAF8", "#1E2326", "#5A6269", "#C6CAC4",
+                       "#FFFFFF", "#E8EEF4", "#D3E1EE", "#FFD6D2", "#B3261E"};
+constexpr Scheme dark{"#23282C", "#1A1E21", "#282E32", "#E6E8E6", "#A3ABB1", "#4A5157",
+                      "#30373C", "#3A444C", "#234A6E", "#7A2A26", "#FF8A80"};
 constexpr const char* accent = "#1F5C99";
 
 QPalette palette_of(const Scheme& scheme) {

@@ -35,10 +35,10 @@ struct RecordField {
     unsigned traits = 0;
 
     enum Trait : unsigned {
-        trims = 1,        // outer blanks are removed on entering a number and before saving
-        moves = 2,        // taken over from another term
-        watched = 4,      // its change publishes the student; the old value is its tooltip
-        telephone = 8,    // blanks, points and commas do not count against the limit
+        trims = 1,      // outer blanks are removed on entering a number and before saving
+        moves = 2,      // taken over from another term
+        watched = 4,    // its change publishes the student; the old value is its tooltip
+        telephone = 8,  // blanks, points and commas do not count against the limit
     };
     bool has(Trait trait) const { return (traits & trait) != 0; }
 };

@@ -30,8 +30,9 @@ NameSearch::NameSearch(Kurvo& kurvo, const SessionContext& session, StudentList&
     on(kurvo_.CommandSARA, &QPushButton::clicked, this, [this] { CommandSARA_Click(); });
     on(kurvo_.TABLO_SBUL, &GridView::cell_clicked, this,
        [this](int row, int) { TABLO_SBUL_Click(kurvo_.TABLO_SBUL->text(row, row_column).toInt()); });
-    control_events::on_key_press(
-        kurvo_.FSBUL_soyad, [this](QChar key) { return session_.upperCaseNames == u"1" ? turkish::capital(key) : key; });
+    control_events::on_key_press(kurvo_.FSBUL_soyad, [this](QChar key) {
+        return session_.upperCaseNames == u"1" ? turkish::capital(key) : key;
+    });
     // The marked buttons lie on other panels and answer only while they are seen, so Enter stays with this box.
     on(kurvo_.FSBUL_soyad, &QLineEdit::returnPressed, this, [this] { kurvo_.CommandSARA->click(); });
 }

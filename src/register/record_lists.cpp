@@ -1,6 +1,7 @@
 #include "register/record_lists.h"
 
 #include "fees/payment_forms.h"
+#include "platform/attempt.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
 #include "platform/text_file.h"
@@ -102,7 +103,10 @@ void learn(QComboBox& list, const QString& file, const QString& value) {
     QStringList entries{value};
     for (int place = 0; place < list.count(); ++place) entries.append(list.itemText(place));
     std::ranges::sort(entries, turkish::before_by_code);
-    text_file::write_lines(file, entries);
+    // The row stands by now, so a list that cannot be written is no reason to end the program.
+    if (!attempt(QStringLiteral("Öğrenci kaydedildi, fakat yeni giriş listeye eklenemedi."),
+                 [&] { text_file::write_lines(file, entries); }))
+        return;
     const QString shown = list.currentText();
     list.clear();
     list.addItems(entries);

@@ -14,7 +14,7 @@ QString schools_file(const SessionContext& session);
 QString special_codes_file(const SessionContext& session);
 
 // Takes a value that the list does not have yet into the list and rewrites its file, both in the order of the
-// character codes. The text in the list's box stays. One blank is no value.
+// character codes. The text in the list's box stays. One blank is no value. A file that cannot be written is told.
 void learn(QComboBox& list, const QString& file, const QString& value);
 
 }  // namespace record_lists

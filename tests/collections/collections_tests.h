@@ -14,7 +14,6 @@ class CollectionScreenTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void clicks_take_whole_instalments();
     void typed_amounts_spread_data();
     void typed_amounts_spread();
     void second_stage_holds_the_student();
@@ -46,6 +45,5 @@ class InvoiceTest : public QObject {
 
 private slots:
     void tax();
-    void lines_follow_the_layout();
     void matrix_invoice_is_a_file();
 };

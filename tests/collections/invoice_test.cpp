@@ -1,32 +1,16 @@
 #include "collections/invoice.h"
 
-#include "collections/invoice_layout.h"
+#include "collections/invoice_amounts.h"
 #include "collections_tests.h"
 #include "platform/clock.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
 #include "till.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// The lines as a person sees them on the sheet.
-QStringList seen(const std::vector<InvoiceLine>& lines) {
-    QStringList rows;
-    for (const InvoiceLine& line : lines) {
-        QString row;
-        for (const InvoiceText& text : line) row = row.leftJustified(text.column - 1) + text.text;
-        rows << row;
-    }
-    return rows;
-}
-
-}  // namespace
 
 void InvoiceTest::tax() {
     const auto split = [](qint64 amount, const QString& percent, bool included) {
@@ -41,31 +25,11 @@ void InvoiceTest::tax() {
     QCOMPARE(split(90'000'000'000'000, u"20"_s, true), u"7500000000000000 + 1500000000000000"_s);
 }
 
-void InvoiceTest::lines_follow_the_layout() {
-    using Layout = std::vector<LayoutItem>;
-    InvoiceTexts texts;
-    texts[0] = u"Ad"_s;
-    texts[1] = u"Veli"_s;
-    texts[2] = u"111"_s;
-    texts[11] = u"1.234,5"_s;
-    const auto lines = [&](const Layout& layout) {
-        return seen(
-            invoice_lines(layout, texts, {{u"Senet  bir"_s, u"1.000"_s}, {u"Senet  iki ve daha uzun"_s, u"20"_s}}));
-    };
-    QCOMPARE(lines(Layout{{0, 3, 1, 0}, {1, 5, 4, 0}, {2, 7, 2, 0}}),
-             QStringList({"", "", "Ad", "", "", "   Veli", "", "", " 111"}));
-    QCOMPARE(lines(Layout{{11, 1, 3, 0}, {12, 1, 1, 0}}), QStringList({"     1.234,5", "          "}));
-    QCOMPARE(lines(Layout{{0, 1, 1, 0}, {10, 3, 2, 12}, {15, 9, 1, 0}, {1, 10, 1, 0}}),
-             QStringList({"Ad", "", "", " Senet  bir     1.000", " Senet  iki ve daha uzun", QString(19, u' ') + "20",
-                          "", "", "", "", "", "", "", "Veli"}));
-}
-
 void InvoiceTest::matrix_invoice_is_a_file() {
     TillFiles files;
     const clock_source::Override clock([] { return QDateTime(QDate(2026, 10, 5), QTime(9, 0)); });
     files.instalment("20261001", 1000);
     files.instalment("20261101", 500);
-    QDir().mkpath(qEnvironmentVariable("KURVO_DRIVES") + u"/c/qlm"_s);
     Till till({[&] { fatura_yaz(till.kurvo, till.session); }, {}});
     PrintSettings& print = till.session.print;
     // Codes of an old printer's Turkish set; 0x81, 0x8D and 0x9E have no letter in the office's code page.

@@ -19,16 +19,16 @@ public:
     void start_again() { asked_ = 0; }
 };
 
-void two_instalments() {
-    TillFiles::instalment("20261001", 1000);
-    TillFiles::instalment("20261101", 500);
+void two_instalments(const TillFiles& files) {
+    files.instalment("20261001", 1000);
+    files.instalment("20261101", 500);
 }
 
-QStringList belgeno() {
-    return TillFiles::rows(TillFiles::reference_file, "Belgeno", {"SERI", "SNO"});
+QStringList belgeno(const TillFiles& files) {
+    return files.rows("Belgeno", {"SERI", "SNO"});
 }
-QStringList kasa() {
-    return TillFiles::rows(TillFiles::reference_file, "Kasa", {"TARIH", "SAAT", "TUTAR"});
+QStringList kasa(const TillFiles& files) {
+    return files.rows("Kasa", {"TARIH", "SAAT", "TUTAR"});
 }
 
 }  // namespace
@@ -36,7 +36,7 @@ QStringList kasa() {
 void PostingTest::collection_becomes_rows() {
     SlowClock clock(100000);
     TillFiles files;
-    two_instalments();
+    two_instalments(files);
     Till till;
     till.pick();
     till.type_amount("1200");
@@ -45,10 +45,10 @@ void PostingTest::collection_becomes_rows() {
     till.kurvo.KFISNO->setText("K7");
     till.press(till.kurvo.CommandOK);
 
-    QCOMPARE(belgeno(), QStringList("M|1"));
-    QCOMPARE(files.rows(TillFiles::reference_file, "Kasa", {"TARIH", "SAAT", "ACK", "TUTAR", "AE", "KOD", "TIP"}),
+    QCOMPARE(belgeno(files), QStringList("M|1"));
+    QCOMPARE(files.rows("Kasa", {"TARIH", "SAAT", "ACK", "TUTAR", "AE", "KOD", "TIP"}),
              QStringList("20261005|140709|1250  AYŞE NUR YILDIRIM #2026|1200|+|1|TL"));
-    QCOMPARE(files.rows(TillFiles::term_file, "Tahsilat",
+    QCOMPARE(files.rows("Tahsilat",
                         {"ONO", "VADE", "TARIH", "SAAT", "ODENEN", "KSAAT", "KASAFNO", "BTIP", "BNO", "FTAR", "FNO"}),
              QStringList({"1250|20261001|20261005|140709|1000|140709|K7|M|1| | ",
                           "1250|20261101|20261005|140709|200|140709|K7|M|1| | "}));
@@ -65,8 +65,8 @@ void PostingTest::collection_becomes_rows() {
 void PostingTest::documents() {
     SlowClock clock(1);
     TillFiles files;
-    two_instalments();
-    files.add(TillFiles::reference_file, "Belgeno", {{"SERI", "M"}, {"SNO", 40}});
+    two_instalments(files);
+    files.add("Belgeno", {{"SERI", "M"}, {"SNO", 40}});
     prompt::Script script;
     script.expect("fatura bu sürümde henüz basılamıyor");
     Till till;
@@ -83,8 +83,8 @@ void PostingTest::documents() {
     collect(till.kurvo.MOP, "3");
     collect(till.kurvo.MOP);
     collect(till.kurvo.FOP);
-    QCOMPARE(belgeno(), QStringList({"F|1", "M|4"}));
-    QCOMPARE(files.rows(TillFiles::term_file, "Tahsilat", {"BTIP", "BNO", "FTAR", "FNO"}),
+    QCOMPARE(belgeno(files), QStringList({"F|1", "M|4"}));
+    QCOMPARE(files.rows("Tahsilat", {"BTIP", "BNO", "FTAR", "FNO"}),
              QStringList({"M|41| | ", "M|3| | ", "M|4| | ", "F|1|20261005|1"}));
     QCOMPARE(files.papers.size(), std::size_t(3));
     QCOMPARE(script.failures(), QStringList());
@@ -93,7 +93,7 @@ void PostingTest::documents() {
 void PostingTest::today_is_forced() {
     SlowClock clock(100000);
     TillFiles files;
-    two_instalments();
+    two_instalments(files);
     Till till;
     for (const char* force : {"0", "1"}) {
         till.session.forceTodayOnPosting = force;
@@ -101,16 +101,16 @@ void PostingTest::today_is_forced() {
         till.kurvo.FTahsil_TARIH->setDate(QDate(2026, 9, 1));
         till.collect("1", nullptr);
     }
-    QCOMPARE(kasa(), QStringList({"20260901|140709|1", "20261005|140709|1"}));
+    QCOMPARE(kasa(files), QStringList({"20260901|140709|1", "20261005|140709|1"}));
     QCOMPARE(files.tahsilat(), QStringList({"1250|20261001|20260901|140709|1", "1250|20261001|20261005|140709|1"}));
 }
 
 void PostingTest::taken_seconds_are_waited_for() {
     SlowClock clock(3);
     TillFiles files;
-    two_instalments();
-    files.add(TillFiles::reference_file, "Kasa", {{"TARIH", "20261005"}, {"SAAT", "140709"}, {"TUTAR", 5}});
-    files.add(TillFiles::term_file, "Tahsilat",
+    two_instalments(files);
+    files.add("Kasa", {{"TARIH", "20261005"}, {"SAAT", "140709"}, {"TUTAR", 5}});
+    files.add("Tahsilat",
               {{"ONO", 1250}, {"VADE", "20261001"}, {"TARIH", "20261005"}, {"SAAT", "140710"}, {"ODENEN", 0}});
     Till till;
     till.pick();
@@ -118,15 +118,15 @@ void PostingTest::taken_seconds_are_waited_for() {
     till.begin_second_stage();
     clock.start_again();
     till.press(till.kurvo.CommandOK);
-    QCOMPARE(kasa(), QStringList({"20261005|140709|5", "20261005|140710|1"}));
+    QCOMPARE(kasa(files), QStringList({"20261005|140709|5", "20261005|140710|1"}));
     QCOMPARE(files.tahsilat().last(), "1250|20261001|20261005|140711|1");
-    QCOMPARE(files.rows(TillFiles::term_file, "Tahsilat", {"KSAAT"}).last(), "140710");
+    QCOMPARE(files.rows("Tahsilat", {"KSAAT"}).last(), "140710");
 }
 
 void PostingTest::two_workstations_collect_from_one_student() {
     SlowClock clock(20);
     TillFiles files;
-    two_instalments();
+    two_instalments(files);
     Till first, second;
     first.pick();
     second.pick();
@@ -134,7 +134,7 @@ void PostingTest::two_workstations_collect_from_one_student() {
     first.collect("400", first.kurvo.MOP);
     second.collect("300", second.kurvo.MOP);
     QCOMPARE(files.odeme(), QStringList({"1250|20261001|700", "1250|20261101|0"}));
-    QCOMPARE(kasa(), QStringList({"20261005|140709|400", "20261005|140710|300"}));
+    QCOMPARE(kasa(files), QStringList({"20261005|140709|400", "20261005|140710|300"}));
     QCOMPARE(files.tahsilat().size(), 2);
     QCOMPARE(second.kurvo.TBORC->text(), "800");
     first.pick();
@@ -145,23 +145,23 @@ void PostingTest::two_workstations_collect_from_one_student() {
 void PostingTest::failure_keeps_what_was_written() {
     SlowClock clock(100000);
     TillFiles files;
-    two_instalments();
+    two_instalments(files);
     Till till;
     till.pick();
     till.type_amount("1500");
     till.begin_second_stage();
     till.press(till.kurvo.MOP);
-    store::Database term = store::OpenDatabase(TillFiles::term_file);  // on another workstation
+    store::Database term = store::OpenDatabase(files.term_file());  // on another workstation
     store::Recordset odeme = term.OpenRecordset("Odeme");
     odeme.Index("OVX");
-    odeme.Seek("=", {TillFiles::student, "20261101"});
+    odeme.Seek("=", {TillFiles::payer, "20261101"});
     odeme.Edit();
     odeme["ODENEN"] = store::Value();
     odeme.Update();
     till.press(till.kurvo.CommandOK);
     QCOMPARE(files.failures.size(), 1);
-    QCOMPARE(belgeno(), QStringList("M|1"));
-    QCOMPARE(kasa(), QStringList("20261005|140709|1500"));
+    QCOMPARE(belgeno(files), QStringList("M|1"));
+    QCOMPARE(kasa(files), QStringList("20261005|140709|1500"));
     // The payment on the broken instalment went with it.
     QCOMPARE(files.tahsilat(), QStringList("1250|20261001|20261005|140709|1000"));
     QCOMPARE(files.odeme(), QStringList({"1250|20261001|1000", "1250|20261101|"}));

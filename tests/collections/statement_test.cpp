@@ -8,7 +8,7 @@ void StatementTest::open_instalments_stand_in_order_of_their_dates() {
     files.instalment("20261201", 1250.5);
     files.instalment("20261001", 1000, 400);
     files.instalment("20261101", 500, 500);
-    files.add(TillFiles::term_file, "Odeme",
+    files.add("Odeme",
               {{"ONO", 1250}, {"VADE", "20270101"}, {"TUTAR", 300}, {"ODENEN", 0}, {"ACK", "servis"}, {"ODSEK", 6}});
     files.instalment("20260901", 70, 0, 1249);
     files.instalment("20260901", 80, 0, 1251);

@@ -3,18 +3,10 @@
 #include "platform/slots.h"
 #include "session/panel_setup.h"
 
-#include <QDir>
 #include <QTest>
 
-const QString TillFiles::term_file = QStringLiteral("c:\\okul\\data\\2026ogr.mdb");
-const QString TillFiles::reference_file = QStringLiteral("c:\\okul\\data\\Bilgi.mdb");
-
 TillFiles::TillFiles() {
-    qputenv("KURVO_DRIVES", folder_.path().toUtf8());
-    qputenv("KURVO_PRINTER", "pdf:" + folder_.path().toUtf8() + "/papers");
-    QDir(folder_.path()).mkpath(QStringLiteral("c/okul/data"));
-    store::create_file(term_file, store::catalogue(store::FileKind::term));
-    store::create_file(reference_file, store::catalogue(store::FileKind::reference));
+    qputenv("KURVO_PRINTER", "pdf:" + drives.path("papers").toUtf8());
     fatal::set_handler([this](const std::exception& error) { failures << QString::fromUtf8(error.what()); });
     PrintSurface::set_observer([this](const PrintSurface::Document& paper) { papers.push_back(paper); });
 }
@@ -22,40 +14,17 @@ TillFiles::TillFiles() {
 TillFiles::~TillFiles() {
     fatal::set_handler({});
     PrintSurface::set_observer({});
-    qunsetenv("KURVO_DRIVES");
     qunsetenv("KURVO_PRINTER");
 }
 
-void TillFiles::add(const QString& file, std::string_view table, Row fields) {
-    store::Database database = store::OpenDatabase(file);
-    store::Recordset records = database.OpenRecordset(table);
-    records.AddNew();
-    for (const auto& [name, value] : fields) records[name] = value;
-    records.Update();
-}
-
-void TillFiles::instalment(const QString& vade, double tutar, double odenen, int ono) {
-    add(term_file, "Odeme",
-        {{"ONO", ono},
-         {"VADE", vade},
-         {"TUTAR", tutar},
-         {"ODENEN", odenen},
-         {"ACK", " "},
-         {"ODSEK", 2},
-         {"CYER", " "}});
-}
-
-QStringList TillFiles::rows(const QString& file, std::string_view table,
-                            std::initializer_list<std::string_view> fields) {
-    store::Database database = store::OpenDatabase(file);
-    store::Recordset records = database.OpenRecordset(table);
-    QStringList all;
-    store::scan_all(records, [&] {
-        QStringList row;
-        for (const std::string_view field : fields) row << records[field].text();
-        all << row.join(u'|');
-    });
-    return all;
+void TillFiles::instalment(const QString& vade, double tutar, double odenen, int ono) const {
+    add("Odeme", {{"ONO", ono},
+                  {"VADE", vade},
+                  {"TUTAR", tutar},
+                  {"ODENEN", odenen},
+                  {"ACK", " "},
+                  {"ODSEK", 2},
+                  {"CYER", " "}});
 }
 
 Till::Till(CollectionPapers papers)
@@ -80,11 +49,11 @@ Till::Till(CollectionPapers papers)
     if (!QTest::qWaitForWindowActive(&kurvo)) qFatal("the form does not come up");
 }
 
-void Till::pick(int number) {
-    kurvo.LONO->setText(QString::number(number));
+void Till::pick() {
+    kurvo.LONO->setText(QString::number(TillFiles::payer));
     kurvo.LADSOYAD->setText(QStringLiteral("AYŞE NUR YILDIRIM"));
     session.studentSelected = true;
-    session.shownStudent = number;
+    session.shownStudent = TillFiles::payer;
     statement.odeme_durumu();
     press(kurvo.CommandTAHSILAT);
 }
@@ -94,12 +63,7 @@ void Till::type(QLineEdit* box, const QString& keys) {
     if (!QTest::qWaitForWindowActive(&kurvo)) qFatal("the form does not come up");
     box->setFocus();
     box->selectAll();
-    for (const QChar key : keys) {
-        if (key == u'<')
-            QTest::keyClick(box, Qt::Key_Backspace);
-        else
-            QTest::keyClick(box, key.toLatin1());
-    }
+    QTest::keyClicks(box, keys);
 }
 
 void Till::click_cell(GridView& grid, int row, int column) {

@@ -6,31 +6,21 @@
 #include "collections/statement.h"
 #include "platform/print_surface.h"
 #include "session/terms.h"
+#include "support/school.h"
 
-#include <QTemporaryDir>
-
-#include <string_view>
 #include <vector>
 
-// The files of one term in a temporary folder of drives. What a handler throws and what is printed is kept.
-class TillFiles {
-    QTemporaryDir folder_;
-
+// The school of the till. What a handler throws and what is printed is kept.
+class TillFiles : public School {
 public:
     TillFiles();
     ~TillFiles();
 
-    static const QString term_file, reference_file;
-    static constexpr int student = 1250;
+    static constexpr int payer = 1250;
 
-    using Row = std::initializer_list<std::pair<std::string_view, store::Value>>;
-    static void add(const QString& file, std::string_view table, Row fields);
-    static void instalment(const QString& vade, double tutar, double odenen = 0, int ono = student);
-    // Each row of the table, its fields joined by "|", in key order.
-    static QStringList rows(const QString& file, std::string_view table,
-                            std::initializer_list<std::string_view> fields);
-    static QStringList odeme() { return rows(term_file, "Odeme", {"ONO", "VADE", "ODENEN"}); }
-    static QStringList tahsilat() { return rows(term_file, "Tahsilat", {"ONO", "VADE", "TARIH", "SAAT", "ODENEN"}); }
+    void instalment(const QString& vade, double tutar, double odenen = 0, int ono = payer) const;
+    QStringList odeme() const { return rows("Odeme", {"ONO", "VADE", "ODENEN"}); }
+    QStringList tahsilat() const { return rows("Tahsilat", {"ONO", "VADE", "TARIH", "SAAT", "ODENEN"}); }
 
     QStringList failures;
     std::vector<PrintSurface::Document> papers;
@@ -48,8 +38,8 @@ public:
     Posting posting;
 
     // What the card does with a number on file.
-    void pick(int number = TillFiles::student);
-    // Into ODENEN, in place of what stands there; "<" is Backspace.
+    void pick();
+    // Into ODENEN, in place of what stands there.
     void type_amount(const QString& keys) { type(kurvo.ODENEN, keys); }
     void click_row(int row) { click_cell(*kurvo.FTahsil_Tablo2, row, 1); }
     // The first stage's rows: "X" and the amount, or nothing.

@@ -1,4 +1,4 @@
-// The record form as it lies on the screen: fields, limits, blocks, overlays, keys.
+// The record form as it lies on the screen: fields, limits, room, overlays.
 #include "forms/kurvo_yeni.h"
 
 #include "checks.h"
@@ -112,7 +112,7 @@ private slots:
             QCOMPARE(form.size(), size);
             QCOMPARE(form.page->horizontalScrollBar()->maximum(), 0);
             QCOMPARE(form.page->verticalScrollBar()->maximum() > 0, scrolls);
-            QCOMPARE(cut_captions(form, [](const QWidget*) { return false; }), "");
+            QCOMPARE(cut_captions(form), "");
 
             form.Frame3->show();
             QCoreApplication::processEvents();
@@ -123,39 +123,6 @@ private slots:
             const QRect brackets = place_in(form, *form.caption_YUVAR);
             QVERIFY(brackets.adjusted(0, -8, 0, 8).contains(place_in(form, *form.YUVAR)));
         }
-    }
-
-    void keys_go_by_blocks() {
-        Page form;
-        const QStringList visited = form.tab_round(form.ONO);
-        qsizetype before = -1;
-        for (const char* name : {"ONO",    "ADSOY",  "DURAKNO",     "KAYTAR",     "AYYER",         "OO_4",      "OO_7",
-                                 "NCSNO",  "KAYNO",  "VELI",        "VISAYTAR",   "ANNE",          "AGSMTEL",   "BABA",
-                                 "SAVBEL", "KTUTAR", "CommandEKLE", "CommandSON", "CommandKAYDET", "CommandSIL"}) {
-            QVERIFY2(visited.indexOf(name) > before, name);
-            before = visited.indexOf(name);
-        }
-        form.CommandNODGS->show();
-        const QList<QAbstractButton*> page = visible_buttons(form);
-        QCOMPARE(conflicting_keys(page), "");
-        QCOMPARE(conflicting_keys(page + form.Frame3->findChildren<QAbstractButton*>()), "");
-        for (const QWidget* panel : std::initializer_list<const QWidget*>{form.FrameNODGS, form.Frame1, form.Frame2,
-                                                                          form.FrameSozlesme, form.FrameSERVIS})
-            QCOMPARE(conflicting_keys(panel->findChildren<QAbstractButton*>()), "");
-    }
-
-    // On a low screen the page follows the focus, down to the fee and up again to the number.
-    void focus_stays_in_sight() {
-        Page form({1366, 700});
-        for (QWidget* control : std::initializer_list<QWidget*>{form.KTUTAR, form.ONO, form.OADET}) {
-            if (control == form.OADET) form.Frame3->show();
-            control->setFocus();
-            QCoreApplication::processEvents();
-            const QRect seen = form.page->viewport()->rect();
-            QVERIFY(seen.contains(control->mapTo(form.page->viewport(), control->rect().center())));
-        }
-        QVERIFY(form.page->viewport()->rect().contains(
-            form.VADE->mapTo(form.page->viewport(), form.VADE->rect().center())));
     }
 
     void overlay_covers_the_page() {

@@ -141,24 +141,6 @@ private slots:
         QTest::keyClick(&form, Qt::Key_K, Qt::AltModifier);
         QCOMPARE(log, "lost ");
     }
-
-    void heading_is_clicked() {
-        Form form;
-        ClickableLabel heading;
-        heading.setText("Öğr.No");
-        form.add(heading);
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-        form.box.setFocus();
-        QSignalSpy clicked(&heading, &ClickableLabel::clicked);
-        QTest::mouseClick(&heading, Qt::LeftButton);
-        QVERIFY(form.box.hasFocus());
-        QTest::mousePress(&heading, Qt::LeftButton);
-        QTest::mouseRelease(&heading, Qt::LeftButton, {}, QPoint(-5, -5));
-        QTest::mouseClick(&heading, Qt::RightButton);
-        QCOMPARE(clicked.count(), 1);
-        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) QTest::keyClick(&heading, key);
-        QCOMPARE(clicked.count(), 3);
-    }
 };
 
 static const Registered<WindowRulesTest> registered;

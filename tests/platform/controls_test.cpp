@@ -1,6 +1,4 @@
-#include "platform/cell_editor.h"
 #include "platform/date_picker.h"
-#include "platform/grid_view.h"
 #include "support/run_all.h"
 
 #include <QSignalSpy>
@@ -54,42 +52,6 @@ private slots:
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(&day, &wheel);
         QCOMPARE(changes.count(), 1);
-    }
-
-    void impossible_dates_come_near() {
-        DatePicker day;
-        const std::pair<QString, QString> keys[]{
-            {"20260231", "20260228"}, {"20260015", "20260115"}, {"20260500", "20260501"}, {"20261301", "20261201"}};
-        for (const auto& [key, result] : keys) {
-            day.set_key("20260831");
-            day.set_key(key);
-            QCOMPARE(day.key(), result);
-        }
-    }
-
-    void editor_lies_over_the_cell() {
-        QWidget form;
-        GridView grid(&form);
-        grid.setGeometry(20, 30, 300, 150);
-        grid.set_fixed(1, 0);
-        grid.set_widths({960, 1080});
-        grid.set_rows(4);
-        grid.set_text(2, 1, "750");
-        CellEditor editor(&form);
-        form.show();
-        form.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-        bool visible_while_set = true;
-        connect(&editor, &QLineEdit::textChanged, &form, [&] { visible_while_set = editor.isVisible(); });
-        editor.open(grid, 2, 1, grid.text(2, 1), CellEditor::Caret::at_start);
-        QVERIFY(!visible_while_set);
-        QVERIFY(editor.hasFocus());
-        QCOMPARE(editor.geometry(), grid.cell_rect(2, 1));
-        QTest::keyClicks(&editor, "1");
-        QCOMPARE(editor.text(), "1750");
-        editor.open(grid, 2, 0, "7", CellEditor::Caret::at_end);
-        QTest::keyClicks(&editor, "5");
-        QCOMPARE(editor.text(), "75");
     }
 };
 

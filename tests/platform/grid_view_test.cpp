@@ -3,7 +3,6 @@
 #include "support/run_all.h"
 
 #include <QHeaderView>
-#include <QScrollBar>
 #include <QSignalSpy>
 
 #include <stdexcept>
@@ -131,76 +130,6 @@ private slots:
         grid.set_rows(0);
         grid.set_rows(11);
         QCOMPARE(grid.row(), -1);
-    }
-
-    void filling_tells_the_view_once() {
-        GridView grid;
-        grid.set_widths({500, 700});
-        grid.set_rows(3);
-        QSignalSpy more(grid.model(), &QAbstractItemModel::rowsInserted);
-        QSignalSpy changes(grid.model(), &QAbstractItemModel::dataChanged);
-        {
-            const GridView::Filling filling(grid);
-            grid.set_rows(0);
-            for (int row = 0; row < 1000; ++row) {
-                grid.set_rows(row + 1);
-                grid.set_row(row, {"12A", QString::number(row)});
-            }
-            QCOMPARE(more.count() + changes.count(), 0);
-            QCOMPARE(grid.text(999, 1), "999");
-        }
-        QCOMPARE(more.count(), 1);
-        QVERIFY(changes.count() <= 1 && grid.updatesEnabled());
-        QCOMPARE(grid.model()->rowCount(), 1000);
-    }
-
-    void columns_in_twips() {
-        GridView grid;
-        grid.set_widths({250, 1000, 1, 1430});
-        grid.set_stretch_column(1);
-        grid.set_rows(1);
-        grid.set_fixed(1, 0);  // widths outlive a later change of the heading
-        grid.resize(600, 100);
-        grid.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&grid));
-        QCOMPARE(grid.columnWidth(0), 21);
-        QVERIFY(grid.isColumnHidden(2));
-        QCOMPARE(grid.columnWidth(3), 119);
-        QCOMPARE(grid.columnWidth(1), grid.viewport()->width() - 21 - 119);
-        grid.resize(150, 100);
-        QTRY_COMPARE(grid.columnWidth(1), 83);  // no less than told
-    }
-
-    void cell_lies_where_it_is_painted() {
-        QWidget form;
-        Lessons grid;
-        grid.setParent(&form);
-        grid.move(30, 40);
-        form.resize(500, 300);
-        form.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&form));
-        QSignalSpy scrolled(&grid, &GridView::scrolled);
-        grid.verticalScrollBar()->setValue(7);
-        QVERIFY(scrolled.count() > 0);
-
-        const QRect first = grid.cell_rect(8, 2);
-        const QPoint body = grid.viewport()->mapTo(&form, QPoint(0, 0));
-        QCOMPARE(first.topLeft(), body + QPoint(167, 0));  // the hidden code takes no room
-        QCOMPARE(first.size(), QSize(grid.columnWidth(2) - 1, grid.rowHeight(0) - 1));
-        QCOMPARE(grid.cell_rect(0, 1).topLeft(), grid.horizontalHeader()->mapTo(&form, QPoint(0, 0)));
-        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.viewport()->mapFrom(&form, first.center()));
-        QCOMPARE(grid.row(), 8);
-    }
-
-    void told_colour_is_readable() {
-        GridView grid;
-        grid.set_columns(2);
-        grid.set_rows(1);
-        grid.set_row_back_color(0, QColor(0xFF, 0xFF, 0xC0));
-        grid.set_fore_color(0, 1, Qt::red);
-        const auto text_color = [&](int column) { return grid.model()->index(0, column).data(Qt::ForegroundRole); };
-        QCOMPARE(text_color(0).value<QColor>(), QColor(Qt::black));
-        QCOMPARE(text_color(1).value<QColor>(), QColor(Qt::red));
     }
 
     void sorted_by_value_and_alphabet() {

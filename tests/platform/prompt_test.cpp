@@ -55,25 +55,6 @@ private slots:
         }
     }
 
-    void script_keeps_what_went_wrong() {
-        prompt::Script script;
-        script.expect("silinsin", true).expect("emin", false).expect("bitti");
-        QVERIFY(prompt::ask("Kayıt silinsin mi?", "Dikkat"));
-        QVERIFY(!prompt::ask("emin misiniz?"));
-        QCOMPARE(script.failures().size(), 1);  // the last is still to come
-        {
-            prompt::Script inner;
-            prompt::tell("hiç");
-            QCOMPARE(inner.failures().size(), 1);
-        }
-        prompt::tell("bitti");
-        QCOMPARE(script.failures(), QStringList());
-        QVERIFY(!prompt::ask("daha?"));
-        QCOMPARE(script.failures().size(), 1);
-        QCOMPARE(script.seen(),
-                 QStringList({"Dikkat|Kayıt silinsin mi?", "Kurvo|emin misiniz?", "Kurvo|bitti", "Kurvo|daha?"}));
-    }
-
     void program_ends_once() {
 #ifdef Q_OS_UNIX
         const pid_t child = fork();

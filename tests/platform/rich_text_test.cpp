@@ -154,17 +154,6 @@ private slots:
             QVERIFY2(rich_text::plain(rich_text::save(document)) == text, qPrintable(value));
         }
     }
-
-    void deep_groups_and_pictures() {
-        const QString deep = "{\\rtf1 " + QString(1'000'000, '{') + "a" + QString(1'000'000, '}') + "b}";
-        QCOMPARE(rich_text::plain(deep), QString("ab"));
-        QCOMPARE(rich_text::plain("{\\rtf1 " + QString(1'000'000, '{')), QString());
-        const QString picture = "{\\rtf1 a{\\pict\\wmetafile8 " + QString(2'000'000, '0') + "}b}";
-        QCOMPARE(rich_text::plain(picture), QString("ab"));
-        const QString fonts = "{\\rtf1{\\fonttbl" + QString("\\f7 A;").repeated(100'000) + "}" +
-                              QString("\\f7").repeated(100'000) + " a}";
-        QCOMPARE(rich_text::plain(fonts), QString("a"));
-    }
 };
 
 static const Registered<RichTextTest> registered;

@@ -11,7 +11,6 @@ namespace {
 const QString prmt = QStringLiteral("c/okul/data/Prmt.txt");
 const QString fatura = QStringLiteral("c/okul/data/Fatura.txt");
 const QString kasa_tip = QStringLiteral("c/okul/data/KasaTip.txt");
-const QString tak = QStringLiteral("c/qlm/tak.txt");
 
 const QByteArray letter_codes = "208\r\n240\r\n220\r\n252\r\n222\r\n254\r\n221\r\n253\r\n214\r\n246\r\n199\r\n231\r\n";
 
@@ -65,39 +64,16 @@ private slots:
                  (QStringList{"3", "18", "166", "167", "220", "231"}));
         QCOMPARE(print.flbl[0] + print.yy[0] + ',' + print.xx[0] + ',' + print.aa[0], " ADSOY5,10,0");
         QCOMPARE(print.flbl[1] + print.yy[1] + ',' + print.xx[1] + ',' + print.aa[1], " TARIH6,60,");
-        school.drives.put(fatura, "\"\",0,1,0,0\r\n" + letter_codes + layout(16));
-        parameter_files::read_fatura(session);
-        QCOMPARE(print.flbl[15], QStringLiteral(" F15"));
-    }
-
-    void flags_of_the_screen() {
-        const School school;
-        SessionContext session = known_session(school);
-        const std::pair<QByteArray, QString> files[]{
-            {{}, "11"},          {"", "11"},        {"\"00\"\r\n", "00"},  {"10", "10"},
-            {"\"0\"\r\n", "01"}, {"\"\"\r\n", "1"}, {"\"011\"\r\n", "011"}};
-        for (const auto& [bytes, flags] : files) {
-            if (!bytes.isNull()) school.drives.put(tak, bytes);
-            parameter_files::read_tak(session);
-            QCOMPARE(session.uiFlags, flags);
-            QCOMPARE(school.drives.bytes(tak), bytes);
-        }
-        session.uiFlags = QStringLiteral("01");
-        bayrak_yaz(session);
-        QCOMPARE(school.drives.bytes(tak), QByteArray("\"01\"\r\n"));
     }
 
     void broken_file_names_what_is_missing() {
         const QByteArray head = "\"\",0,1,0,18\r\n";
         const std::tuple<QString, QByteArray, QString> files[]{
             {prmt, "", "2. değer (Senet Yatay) eksik"},
-            {prmt, "1,2,3,4,5,6,7,8,9,10,11,12,13", "14. değer"},
             {kasa_tip, "", "1. satır"},
             {fatura, "\"\",0,1,0\r\n", "5. değer (KDV oranı) eksik"},
             {fatura, "\"\",0,iki,0,0\r\n", "\"iki\""},
             {fatura, "\"\",0,1,0,101\r\n", "0 ile 100"},
-            {fatura, head + letter_codes.chopped(5), "17. değer (ç harfinin kodu)"},
-            {fatura, head + letter_codes + layout(2) + "\"KDV\",7\r\n", "16. satır: 28. değer"},
             {fatura, head + letter_codes + "\"0\",1\r\nx,1\r\n", "15. satır: 20. değer (alanın sütunu)"},
             {fatura, head + "256\r\n" + letter_codes.mid(5), "2. satır: 6. değer (Ğ harfinin kodu) 0 ile 255"},
             {fatura, head + letter_codes + layout(17), "30. satır: 81. değerden sonrası fazla; en çok 16"}};

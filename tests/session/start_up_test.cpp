@@ -4,10 +4,8 @@
 #include "platform/paths.h"
 #include "platform/prompt.h"
 #include "platform/rich_text.h"
-#include "platform/slots.h"
 #include "register/program.h"
 #include "session/hand_over.h"
-#include "support/refusal.h"
 #include "support/run_all.h"
 #include "support/school.h"
 
@@ -68,7 +66,7 @@ private slots:
         for (const QString& made : {school.data_file("Prmt.txt"), school.data_file("Fatura.txt")})
             QVERIFY2(paths::exists(made), qPrintable(made));
 
-        QCOMPARE(school.count("prg"), 2);
+        QCOMPARE(school.rows("prg", {"KOD"}).size(), 2);
         run.kurvo.close();
         QVERIFY(!run.session.termDbOpen && !run.session.termDb.is_open());
         QCOMPARE(school.rows("prg", {"KOD"}), QStringList("Kasa"));  // the other programs of the suite go on
@@ -101,19 +99,6 @@ private slots:
         QCOMPARE(run.session.reference.lessons.size(), std::size_t{2});
     }
 
-    void failure_names_the_file() {
-        for (const QString missing : {"c:\\qlm\\log.txt", "c:\\okul\\data\\Dsys.mdb", "c:\\okul\\data\\kbase.mdb",
-                                      "c:\\okul\\data\\2026ogr.mdb", "c:\\okul\\data\\Bilgi.mdb"}) {
-            const School school;
-            school.hand_over();
-            QVERIFY(paths::remove(missing));
-            Program program;
-            const QString words = refusal([&] { program.start(); });
-            QVERIFY2(words.contains(missing), qPrintable(words));
-            QVERIFY(!paths::exists(hand_over_file));
-        }
-    }
-
     void other_version_stops_and_signs_off() {
         School school;
         school.data_version("20.9");
@@ -124,26 +109,10 @@ private slots:
         QCOMPARE(script.failures(), QStringList());
         QCOMPARE(script.seen().first().section('|', 0, 0), QStringLiteral("Dikkat"));
         QVERIFY(!run.kurvo.isVisible() && !run.session.termDbOpen);
-        QCOMPARE(school.count("prg"), 0);
+        QCOMPARE(school.rows("prg", {"KOD"}), QStringList());
         QCOMPARE(rich_text::plain(school.row("SBtab", {"RMA"}).value("SB1")), QStringLiteral("20.9"));
         QVERIFY(!paths::exists(hand_over_file));
         QVERIFY2(!paths::exists(school.data_file("Prmt.txt")), "nothing is made for a start that stopped");
-    }
-
-    void closing_without_the_launchers_list() {
-        for (const bool damaged : {false, true}) {
-            School school;
-            Running run(school);
-            QVERIFY(paths::remove(school.file_of("prg")));
-            if (damaged) school.drives.put("c/qlm/Psys.mdb", "no database at all");
-            QString said;
-            fatal::set_handler([&](const std::exception& error) { said += QString::fromUtf8(error.what()); });
-            const bool closed = run.kurvo.close();
-            fatal::set_handler({});
-            QVERIFY(closed && !run.session.termDb.is_open());
-            QCOMPARE(said.count(school.file_of("prg")), damaged ? 1 : 0);
-            QCOMPARE(paths::exists(school.file_of("prg")), damaged);  // the list is the launcher's to make
-        }
     }
 
     void both_writers_of_the_flags() {

@@ -7,6 +7,7 @@
 // Numbers, dates and times are written as the tables hold them.
 #pragma once
 
+#include "platform/rich_text.h"
 #include "store/record.h"
 #include "support/drives.h"
 
@@ -29,40 +30,58 @@ public:
     public:
         Student& name(const QString& adsoy) { return set("ADSOY", adsoy); }
         Student& set(std::string_view field, const store::Value& value);
-        Student& note(const QString& plain);   // NOT, as rich text
-        Student& photo(const QString& plain);  // RESIM, as rich text
-        Student& instalment(const QString& vade, double tutar, int odsek = 2);
+        Student& photo(const QString& plain) { return set("RESIM", rich_text::from_plain(plain)); }
+        Student& instalment(const QString& vade, double tutar) {
+            return with("Odeme",
+                        {{"VADE", vade}, {"TUTAR", tutar}, {"ODENEN", 0}, {"ACK", " "}, {"ODSEK", 2}, {"CYER", " "}});
+        }
         // A payment on an instalment that is there, with its row in the cash book; raises what is paid on it.
-        Student& payment(const QString& vade, const QString& tarih, const QString& saat, double odenen,
-                         const QString& btip = QStringLiteral(" "), const QString& bno = QStringLiteral(" "));
+        Student& payment(const QString& vade, const QString& tarih, const QString& saat, double odenen);
         // Hours with leave, without leave, with a report.
-        Student& absence(const QString& tarih, const QString& dkod, int izinli, int izinsiz, int raporlu);
-        Student& study_absence(const QString& tarih, const QString& dkod, int izinli, int izinsiz, int raporlu);
-        Student& excuse(const QString& tarih, const QString& ack);
-        Student& study_excuse(const QString& tarih, const QString& ack);
+        Student& absence(const QString& tarih, const QString& dkod, int izinli, int izinsiz, int raporlu) {
+            return with(
+                "Devam",
+                {{"TARIH", tarih}, {"DKOD", dkod}, {"IZINLI", izinli}, {"IZINSIZ", izinsiz}, {"RAPORLU", raporlu}});
+        }
+        Student& study_absence(const QString& tarih, const QString& dkod, int izinli, int izinsiz, int raporlu) {
+            return with(
+                "EtudDevam",
+                {{"TARIH", tarih}, {"DKOD", dkod}, {"IZINLI", izinli}, {"IZINSIZ", izinsiz}, {"RAPORLU", raporlu}});
+        }
+        Student& excuse(const QString& tarih, const QString& ack) {
+            return with("Dmazeret", {{"TARIH", tarih}, {"ACK", ack}});
+        }
+        Student& study_excuse(const QString& tarih, const QString& ack) {
+            return with("Emazeret", {{"TARIH", tarih}, {"ACK", ack}});
+        }
         Student& session(const QString& tarih, const QString& saat, const QString& bitsaat, const QString& kod,
-                         int sicil, const QString& girdi = QStringLiteral(" "),
-                         const QString& konu = QStringLiteral(" "));
+                         int sicil) {
+            Fields fields{{"TARIH", tarih}, {"SAAT", saat}, {"BITSAAT", bitsaat}, {"KOD", kod}, {"SICIL", sicil}};
+            for (const char* blank : {"GIRDI", "KONU"}) fields.emplace_back(blank, " ");
+            return with("Etud", fields);
+        }
 
     private:
         friend class School;
         Student(School& school, int number) : school_(school), number_(number) {}
-        Student& absent(std::string_view table, const QString& tarih, const QString& dkod, int izinli, int izinsiz,
-                        int raporlu);
+        // Adds a row with these fields and the number.
+        Student& with(std::string_view table, Fields fields);
         School& school_;
         int number_;
     };
 
-    // The student of this number; added with all 85 fields valid where there is none.
+    // The student of this number; added with all 85 fields blank or 0 where there is none.
     Student student(int number);
-    School& school_class(const QString& sinif, const QString& ack = QStringLiteral(" "));
-    School& lesson(const QString& kod, const QString& tanim);
-    School& teacher(int sicil, const QString& adsoy);
-    School& price(const QString& tur, const QString& kod, double deger, const QString& tanim = QStringLiteral(" "));
-    School& stop(int sno, int drk, const QString& ack);
-    School& series(const QString& seri, double sno);  // the last number used
-    School& user(const QString& kod, const QString& options);
-    School& running_program(const QString& kod = QStringLiteral("Kurvo"));
+    School& school_class(const QString& sinif, const QString& ack) {
+        return with("Sinif", {{"SINIF", sinif}, {"ACK", ack}, {"KAPASITE", 0}});
+    }
+    School& lesson(const QString& kod, const QString& tanim) { return with("Ders", {{"KOD", kod}, {"TANIM", tanim}}); }
+    School& teacher(int sicil, const QString& adsoy) { return with("Ogretmen", {{"SICIL", sicil}, {"ADSOY", adsoy}}); }
+    School& stop(int sno, int drk, const QString& ack) {
+        return with("Servis", {{"SNO", sno}, {"DRK", drk}, {"ACK", ack}});
+    }
+    School& user(const QString& kod, const QString& options) { return coded("users", kod, "DKOD", options); }
+    School& running_program(const QString& kod = QStringLiteral("Kurvo")) { return with("prg", {{"KOD", kod}}); }
     // The version of the data files, "21.1" at first; an empty one takes the row away.
     School& data_version(const QString& version);
 
@@ -70,14 +89,9 @@ public:
     struct HandOver {
         QString rights = QStringLiteral("111111");
         QString version = QStringLiteral("21.1");
-        QString user = QStringLiteral("AYLIN");
-        QString hide_archived = QStringLiteral("0");
-        QString school_name = QStringLiteral("ÖZEL IŞIK");
-        QString photo_folder = QStringLiteral("c:\\okul\\foto\\");
-        QString remote_host = {}, remote_database = {}, remote_user = {}, remote_password = {}, remote_key = {};
+        QString remote_key = {};
     };
     void hand_over(const HandOver& items) const;
-    void hand_over() const { hand_over(HandOver{}); }
 
     // A second term with its own file.
     void add_term(const QString& term) const;
@@ -88,18 +102,21 @@ public:
     Texts row(std::string_view table, std::initializer_list<store::Value> key) const;
     // All rows in the primary order, the fields of each joined by "|".
     QStringList rows(std::string_view table, std::initializer_list<std::string_view> fields) const;
-    std::int64_t count(std::string_view table) const;
 
     const QString& term() const { return term_; }
     QString data_root() const { return QStringLiteral("c:\\okul\\"); }
     QString data_file(const QString& name) const { return data_root() + QStringLiteral("data\\") + name; }
     QString term_file() const { return data_file(term_ + QStringLiteral("ogr.mdb")); }
     QString reference_file() const { return data_file(QStringLiteral("Bilgi.mdb")); }
-    QString file_of(std::string_view table) const;
 
     const Drives drives;
 
 private:
+    std::vector<std::pair<store::FileKind, QString>> files() const;
+    QString file_of(std::string_view table) const;
+    School& with(std::string_view table, const Fields& fields);
+    // The row of this code, added where there is none, with a field as rich text.
+    School& coded(std::string_view table, const QString& kod, std::string_view field, const QString& plain);
     void make_file(const QString& file, store::FileKind kind) const;
 
     QString term_;

@@ -58,11 +58,6 @@ private slots:
             QVERIFY2(outcome.words.contains(words), qPrintable(line + (": " + outcome.words)));
             QVERIFY2(outcome.status == status, line);
         }
-        const QByteArray help = run("--help").out;
-        for (const QByteArray verb : {"kur", "kullanici", "baslat", "tablolar", "dok", "yukle"}) {
-            QVERIFY(run(verb + " --help").out.startsWith("Kullanım: kurvo-arac " + verb));
-            QVERIFY(help.contains("\n  " + verb + " "));
-        }
     }
 
     void takes_a_table_from_one_file_to_another() {

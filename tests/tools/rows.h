@@ -27,9 +27,9 @@ inline QList<Record> all(const QString& file, std::string_view table) {
     return result;
 }
 
-inline QByteArray dump(const QString& file, const QString& table, const QString& index = {}) {
+inline QByteArray dump(const QString& file, const QString& table) {
     QByteArray text;
-    table_copy::dump(file, table, index, [&](const QByteArray& piece) { text += piece; });
+    table_copy::dump(file, table, {}, [&](const QByteArray& piece) { text += piece; });
     return text;
 }
 

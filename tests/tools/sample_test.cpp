@@ -2,13 +2,8 @@
 #include "sample.h"
 
 #include "platform/clock.h"
-#include "platform/rich_text.h"
 #include "rows.h"
-#include "sample_money.h"
 #include "support/school.h"
-
-#include <QImage>
-#include <QSet>
 
 using rows::Record;
 
@@ -31,20 +26,6 @@ QHash<QString, Record> keyed(const QList<Record>& records, const QStringList& fi
     QHash<QString, Record> result;
     for (const Record& record : records) result.insert(key_of(record, fields), record);
     return result;
-}
-
-sample::Scale small() {
-    return {.students = 30, .instalments = 10, .absences = 20, .photos = 0};
-}
-
-QByteArray whole_term(std::uint64_t seed) {
-    const School school;
-    sample::fill_reference(rows::root);
-    sample::fill_term(rows::root, "2026", seed, small());
-    QByteArray text = rows::dump(rows::reference, "Kasa");
-    for (const store::TableDef& table : store::catalogue(store::FileKind::term))
-        text += rows::dump(rows::term, QString::fromStdString(table.name));
-    return text;
 }
 
 }  // namespace
@@ -83,26 +64,6 @@ private slots:
             QVERIFY(student["BOLUM"].is_text() && student["SAVBEL"].is_text());
             QCOMPARE(student["AYTAR"].text() == "20000101", student["AYYER"].text() == " ");
         }
-    }
-
-    void has_every_kind_of_student() {
-        const QHash<QString, Record> classes = keyed(rows::all(rows::term, "Sinif"), {"SINIF"});
-        int photos = 0, hidden = 0, left = 0, noted = 0, free_of_charge = 0;
-        for (const Record& student : students_) {
-            QVERIFY(classes.contains(student["SINIF"].text()));
-            hidden += student["SAKLA"].whole_number() == 1;
-            left += student["AYYER"].text() != " ";
-            noted += rich_text::plain(student["NOT"].text()).size() > 1;
-            free_of_charge += student["KTUTAR"].number() == 0;
-            const QString photo = rich_text::plain(student["RESIM"].text());
-            if (photo.isEmpty()) continue;
-            QCOMPARE(photo, "2026_" + student["ONO"].text() + ".bmp");
-            QVERIFY(!QImage(school_->drives.path("c/okul/foto/" + photo)).isNull());
-            ++photos;
-        }
-        QVERIFY(photos > student_count / 2 && photos < student_count);
-        QVERIFY(hidden > 0 && left > 0 && noted > 0 && free_of_charge > 0);
-        QCOMPARE(keyed(instalments_, {"ODSEK"}).size(), 7);
     }
 
     void plans_and_payments_add_up() {
@@ -158,60 +119,6 @@ private slots:
             QCOMPARE(last[series]["SNO"].whole_number(), numbers.lastKey());
             QVERIFY(std::is_sorted(numbers.begin(), numbers.end()));
         }
-    }
-
-    void absences_and_sessions_name_what_exists() {
-        const QHash<QString, Record> lessons = keyed(rows::all(rows::reference, "Ders"), {"KOD"});
-        const QHash<QString, Record> teachers = keyed(rows::all(rows::reference, "Ogretmen"), {"SICIL"});
-        for (const Record& absence : rows::all(rows::term, "Devam") + rows::all(rows::term, "EtudDevam")) {
-            QVERIFY(lessons.contains(absence["DKOD"].text()));
-            for (const char* counter : {"IZINLI", "IZINSIZ", "RAPORLU"}) QVERIFY(!absence[counter].is_null());
-            QVERIFY(absence["IZINLI"].number() + absence["IZINSIZ"].number() + absence["RAPORLU"].number() > 0);
-        }
-        QHash<QString, int> marks;
-        const QList<Record> sessions = rows::all(rows::term, "Etud");
-        for (const Record& session : sessions) {
-            QVERIFY(teachers.contains(session["SICIL"].text()));
-            QVERIFY(session["SAAT"].text() < session["BITSAAT"].text());
-            QVERIFY(session["KONU"].text().size() <= 50 && !session["KONU"].text().isEmpty());
-            ++marks[session["GIRDI"].text()];
-        }
-        QVERIFY(marks.size() == 2 && marks["X"] > 0 && marks[" "] > 0);
-        QVERIFY2(keyed(sessions, {"TARIH", "SAAT", "SICIL"}).size() < sessions.size(), "no group session");
-    }
-
-    void due_dates_follow_the_months() {
-        const std::pair<QDate, QString> firsts[]{{{2027, 1, 31}, "20270131 20270228 20270331 20270430 "},
-                                                 {{2027, 12, 30}, "20271230 20280130 20280228 20280330 "}};
-        for (const auto& [first, expected] : firsts) {
-            QString keys;
-            for (const QDate& date : sample::due_dates(first, 4)) keys += dates::key(date) + ' ';
-            QCOMPARE(keys, expected);
-        }
-    }
-
-    void same_seed_same_school() {
-        const QByteArray first = whole_term(3);
-        QVERIFY(first == whole_term(3));
-        QVERIFY(first != whole_term(4));
-    }
-
-    void two_terms_share_the_cash_book() {
-        const School school;
-        school.add_term("2027");
-        sample::fill_reference(rows::root);
-        for (const QString term : {"2026", "2027"}) sample::fill_term(rows::root, term, 1, small());
-        // The receipts of the second term go on behind those of the first.
-        const auto numbers = [&](const QString& term) {
-            QList<int> result;
-            for (const rows::Record& payment : rows::all(school.data_file(term + "ogr.mdb"), "Tahsilat"))
-                if (payment["BTIP"].text() == "M") result += payment["BNO"].text().toInt();
-            std::ranges::sort(result);
-            return result;
-        };
-        QCOMPARE(numbers("2027").first(), numbers("2026").last() + 1);
-        QCOMPARE(rows::all(rows::term, "Odeme").size(), 30 * 10);
-        QCOMPARE(rows::all(rows::term, "Devam").size(), 30 * 20);
     }
 };
 
