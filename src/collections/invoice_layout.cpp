@@ -63,7 +63,10 @@ std::vector<LayoutItem> invoice_layout(const SessionContext& session, int last_c
         if (!is_field(code))
             refuse(QStringLiteral("alan \"%1\" 0 ile %2 arasında bir sayı olmalı.").arg(code).arg(invoice_fields - 1));
         const LayoutItem item{number(code), number(print.yy[i]), number(print.xx[i]), number(print.aa[i])};
-        const int right = item.code == invoice_field::body ? std::max(item.column, item.second_column) : item.column;
+        const bool is_total = item.code >= invoice_field::net && item.code <= invoice_field::total;
+        const int right = item.code == invoice_field::body
+                              ? std::max(item.column, item.second_column + amount_width - 1)
+                              : item.column + (is_total ? amount_width - 1 : 0);
         if (right > last_column)
             refuse(QStringLiteral("%1. sütun kağıda sığmıyor; son sütun %2.").arg(right).arg(last_column));
         layout.push_back(item);

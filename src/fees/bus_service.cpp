@@ -26,6 +26,7 @@ void BusService::CommandSERVISBUL_Click() {
     fill_stops();
     form_.TABLO->show();
     form_.FrameSERVIS->show();
+    form_.TABLO->setFocus();
 }
 
 void BusService::fill_stops() {

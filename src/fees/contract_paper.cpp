@@ -26,6 +26,7 @@ constexpr double full_for_note = 13500;  // nor the closing note
 constexpr double next_sheet_top = 800, next_frame_top = 700;
 constexpr double label_left = 700, value_left = 1800, plan_left = 6000;
 constexpr double amount_start = 7200;
+constexpr double remark_left = 8300, remark_step = 200;
 constexpr double gap = 100;  // to what stands at the right
 
 // As many characters from the front as stand within `width`, at least one.
@@ -173,7 +174,7 @@ void ContractPaper::instalments_heading(const QString& title) {
     y_ += 400;
     paper_.font_size(text_font.points);
     const std::pair<double, QString> headings[] = {
-        {plan_left, u"Sno"_s}, {6500, u"Vade Tarihi"_s}, {7600, u"Tutar"_s}, {8300, u"Açıklama"_s}};
+        {plan_left, u"Sno"_s}, {6500, u"Vade Tarihi"_s}, {7600, u"Tutar"_s}, {remark_left, u"Açıklama"_s}};
     for (const auto& [x, text] : headings) print_at(x, text);
     paper_.line(plan_left, y_ + 250, frame_right, y_ + 250);
     paper_.font(text_font);
@@ -206,7 +207,11 @@ void ContractPaper::instalment(const GridView& plan, int row) {
     print_at(plan_left, plan.text(row, plan_grid::sno));
     print_at(6500, plan.text(row, plan_grid::vade));
     print_at(PrintSurface::right_aligned(amount_start, amount), amount);
-    print_at(8300, plan.text(row, plan_grid::ack));
+    const QStringList remark = broken(paper_, plan.text(row, plan_grid::ack), frame_right - gap - remark_left);
+    for (qsizetype i = 0; i < remark.size(); ++i) {
+        if (i > 0) y_ += remark_step;
+        print_at(remark_left, remark[i]);
+    }
     y_ += 260;
 }
 

@@ -20,7 +20,8 @@ namespace {
 constexpr int notes_a_sheet = 4;
 
 Money open_amount(const GridView& plan, int row) {
-    return numbers::whole(plan.text(row, plan_grid::tutar)) - numbers::whole(plan.text(row, plan_grid::odenen));
+    const Money paid = numbers::money(plan.text(row, plan_grid::odenen));  // plain digits, with a point for decimals
+    return numbers::whole(plan.text(row, plan_grid::tutar)) - Money::units(paid.rounded());
 }
 
 // The height of one note; notes of no height would lie on each other.

@@ -69,14 +69,12 @@ KurvoYeni::KurvoYeni(QWidget* parent) : QWidget(parent, Qt::Window) {
     build_family();
     set_up_payments();
     build_overlays();
+    // The wheel scrolls the page and changes no choice on its way.
+    for (QComboBox* list : findChildren<QComboBox*>()) list->installEventFilter(this);
     limit_typing();
     captions::name_fields(this);
     captions::tell_shortcuts(this);
     set_tab_order();
-    // Wherever the work leads the focus, by Tab or by the program, its control comes into sight.
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (now != nullptr && page_contents->isAncestorOf(now)) page->ensureWidgetVisible(now);
-    });
     DefaultButtonRule::watch(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keep_in_sight(now); });
     resize(screen()->availableSize().boundedTo(comfortable));
@@ -328,6 +326,10 @@ void KurvoYeni::place_plan_panel() {
 }
 
 bool KurvoYeni::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel && qobject_cast<QComboBox*>(watched) != nullptr) {
+        event->ignore();
+        return true;
+    }
     const bool moved = watched == payments_place && (event->type() == QEvent::Resize || event->type() == QEvent::Move);
     const bool shown = watched == Frame3 && event->type() == QEvent::ShowToParent;
     if (moved || shown) place_plan_panel();

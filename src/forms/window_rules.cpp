@@ -1,5 +1,6 @@
 #include "forms/window_rules.h"
 
+#include "forms/overlay_frame.h"
 #include "platform/date_picker.h"
 
 #include <QAbstractSpinBox>
@@ -11,6 +12,8 @@
 #include <QMouseEvent>
 #include <QRadioButton>
 #include <QShortcutEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -49,10 +52,19 @@ public:
     }
 
 private:
+    // What stands behind an overlay is out of reach for the mouse, and so for the keyboard.
+    static bool is_covered(const QWidget& button) {
+        const QList<OverlayFrame*> overlays = button.window()->findChildren<OverlayFrame*>();
+        return std::ranges::any_of(overlays, [&](const OverlayFrame* overlay) {
+            return overlay->isVisible() && !overlay->isAncestorOf(&button);
+        });
+    }
+
     // The control left behind has its lost focus before the button acts, and may still disable the button.
     static bool shortcut(QWidget* widget, const QShortcutEvent& event) {
         auto* button = qobject_cast<QAbstractButton*>(widget);
         if (button == nullptr || event.isAmbiguous() || !button->isEnabled()) return false;
+        if (is_covered(*button)) return true;
         const QPointer<QAbstractButton> alive = button;
         if (button->focusPolicy() != Qt::NoFocus) button->setFocus(Qt::ShortcutFocusReason);
         if (alive && button->isEnabled() && button->isVisible()) button->click();

@@ -119,7 +119,8 @@ std::vector<Item> read_items_with_lines(const QString& name) {
     int number = 0;
     for (const QString& line : read_lines(name)) {
         ++number;
-        for (ItemReader reader(line); reader.more();) items.push_back({reader.next(), number});
+        for (ItemReader reader(line); reader.more();)
+            items.push_back({reader.next(), number, line.trimmed().isEmpty()});
     }
     return items;
 }

@@ -23,7 +23,8 @@ void write_bytes(const QString& name, const QByteArray& bytes);
 QStringList read_items(const QString& name);
 struct Item {
     QString text;
-    int line;  // counted from 1
+    int line;            // counted from 1
+    bool of_empty_line;  // nothing else stands there, not even quotes
 };
 std::vector<Item> read_items_with_lines(const QString& name);
 // A line of items, texts in double quotes, numbers bare.

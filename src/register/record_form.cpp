@@ -118,6 +118,8 @@ void RecordForm::dosyadan_aktar() {
 void RecordForm::form_temizle() {
     session_.studentSelected = false;
     form_.CommandNODGS->hide();
+    // A plan panel left open belongs to the student who goes; what it disabled comes back before the next is locked.
+    if (!form_.Frame3->isHidden()) form_.CommandGERI3->click();
     form_.KTUTAR->setEnabled(true);
     form_.ONO->setEnabled(true);
     record_controls::clear(form_);

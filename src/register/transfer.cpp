@@ -101,7 +101,7 @@ void Transfer::take_over(std::int64_t number) {
     if (!source.seek(number)) return;
     record_.form_temizle();
     form_.ADSOY->setFocus();
-    form_.ONO->setText(form_.YONO->text());
+    form_.ONO->setText(QString::number(number_in(*form_.YONO)));
     show_source_row(source.students());
     record_.kayitVar = false;
 }

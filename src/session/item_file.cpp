@@ -9,7 +9,10 @@ QString item_file_refusal(const QString& name, int line, const QString& why) {
     return QStringLiteral("%1 hatalı, %2. satır: %3").arg(name).arg(line).arg(why);
 }
 
-ItemFile::ItemFile(QString name) : name_(std::move(name)), items_(text_file::read_items_with_lines(name_)) {}
+// Empty lines that an editor left at the end are no values.
+ItemFile::ItemFile(QString name) : name_(std::move(name)), items_(text_file::read_items_with_lines(name_)) {
+    while (!items_.empty() && items_.back().of_empty_line) items_.pop_back();
+}
 
 void ItemFile::refuse(int line, const QString& why) const {
     throw std::runtime_error(item_file_refusal(name_, line, why).toStdString());
