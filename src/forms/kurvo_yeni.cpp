@@ -82,7 +82,10 @@ KurvoYeni::KurvoYeni(QWidget* parent) : QWidget(parent, Qt::Window) {
     arrange_columns();
 }
 
-KurvoYeni::~KurvoYeni() = default;
+// The focus moves once more while the controls go, when this form is none any longer.
+KurvoYeni::~KurvoYeni() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 // What the .ui files do not hold is made here, each control with its name.
 void KurvoYeni::make_controls() {
