@@ -14,5 +14,7 @@ void measure_posting(Table& table, const BigSchool& school);
 void measure_search(Table& table, const BigSchool& school);
 void measure_record_form(Table& table, const BigSchool& school);
 void measure_renumbering(Table& table, const BigSchool& school);
+void measure_dossier(Table& table, const BigSchool& school);
+void measure_rich_text(Table& table, const BigSchool& school);
 
 }  // namespace bench

@@ -21,9 +21,9 @@ int main(int argc, char** argv) {
     try {
         bench::Table table(argc > 1 ? argv[1] : "");
         const bench::BigSchool school(QApplication::applicationDirPath() + QStringLiteral("/.."));
-        for (const auto measure :
-             {bench::measure_store, bench::measure_list, bench::measure_card, bench::measure_start,
-              bench::measure_posting, bench::measure_search, bench::measure_record_form, bench::measure_renumbering})
+        for (const auto measure : {bench::measure_store, bench::measure_list, bench::measure_card, bench::measure_start,
+                                   bench::measure_posting, bench::measure_search, bench::measure_record_form,
+                                   bench::measure_renumbering, bench::measure_rich_text, bench::measure_dossier})
             measure(table, school);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());

@@ -71,7 +71,7 @@ Till::Till() {
     kurvo_.CommandTAHSILAT->show();
     kurvo_.ComboKASATIP->addItem(QStringLiteral("TL"));
     set_up_list(kurvo_);
-    set_up_panels(kurvo_);
+    set_up_panels(kurvo_, session_);
     terms_.open();
     kurvo_.show();
     QCoreApplication::processEvents();

@@ -118,9 +118,5 @@ void Posting::print_document() {
 
 // The rows are stored: a paper that fails must not end the program, or the clerk would post once more.
 void Posting::print(const QString& name, const std::function<void()>& paper) {
-    if (paper)
-        attempt(QStringLiteral("Tahsilat kaydedildi, fakat %1 basılamadı.").arg(name), paper);
-    else
-        prompt::tell(QStringLiteral("Tahsilat kaydedildi, fakat %1 bu sürümde henüz basılamıyor.").arg(name),
-                     QStringLiteral("Dikkat"));
+    attempt(QStringLiteral("Tahsilat kaydedildi, fakat %1 basılamadı.").arg(name), paper);
 }

@@ -12,7 +12,7 @@
 class CollectionScreen;
 class Statement;
 
-// The papers of a collection beside the receipt. While one is empty the clerk is told that it cannot be printed yet.
+// The papers of a collection beside the receipt; both are set.
 struct CollectionPapers {
     std::function<void()> fatura_yaz;  // the invoice, in the form that session.print names
     std::function<void()> plan_yaz;    // the payment plan, a dossier with the payments alone
@@ -26,7 +26,7 @@ class Posting : public QObject {
 public:
     // All must outlive it.
     Posting(Kurvo& kurvo, SessionContext& session, Statement& statement, CollectionScreen& screen,
-            CollectionPapers papers = {});
+            CollectionPapers papers);
 
     // Nothing happens while no student is on the card, while LONO holds another number than the card's, or
     // while ODENEN is not above 0.

@@ -29,32 +29,6 @@ constexpr double amount_start = 7200;
 constexpr double remark_left = 8300, remark_step = 200;
 constexpr double gap = 100;  // to what stands at the right
 
-// As many characters from the front as stand within `width`, at least one.
-qsizetype fitting(const PrintSurface& paper, const QString& text, double width) {
-    qsizetype fits = 1, too_many = text.size() + 1;
-    while (too_many - fits > 1) {
-        const qsizetype middle = (fits + too_many) / 2;
-        (paper.text_width(text.left(middle)) <= width ? fits : too_many) = middle;
-    }
-    return fits;
-}
-
-// Broken at blanks where it is wider than `width`, inside a word only where that alone is wider.
-QStringList broken(const PrintSurface& paper, QString text, double width) {
-    QStringList pieces;
-    while (paper.text_width(text) > width) {
-        const qsizetype fits = fitting(paper, text, width);
-        const qsizetype first_letter = std::ranges::find_if(text, [](QChar c) { return c != u' '; }) - text.begin();
-        const qsizetype blank = text.lastIndexOf(u' ', fits);
-        const qsizetype end = blank > first_letter ? blank : fits;
-        pieces << text.left(end);
-        text.remove(0, end);
-        while (text.startsWith(u' ')) text.remove(0, 1);
-    }
-    if (!text.isEmpty()) pieces << text;
-    return pieces;
-}
-
 QString joined(std::initializer_list<const QLineEdit*> boxes, const QString& between) {
     QStringList texts;
     for (const QLineEdit* box : boxes) texts << box->text();
@@ -112,7 +86,7 @@ void ContractPaper::clauses(const QStringList& lines) {
     open_frame(y_);
     for (QString line : lines) {
         const double x = line.startsWith(u' ') ? 1000 : 800;
-        const QStringList pieces = broken(paper_, line.replace(u'\t', u"    "_s), frame_right - gap - x);
+        const QStringList pieces = broken_text(paper_, line.replace(u'\t', u"    "_s), frame_right - gap - x);
         for (const QString& piece : pieces.isEmpty() ? QStringList{QString()} : pieces) {
             turn_full_sheet();
             print_at(x, piece);
@@ -156,7 +130,8 @@ void ContractPaper::student() {
         {u"Adres"_s, f.ADRES1->text()},
     };
     for (const auto& [label, value] : lines) student_line(label, u": "_s + value);
-    for (const QString& piece : broken(paper_, joined({f.ADRES2, f.AILCE, f.AIL}, blank), plan_left - value_left - gap))
+    for (const QString& piece :
+         broken_text(paper_, joined({f.ADRES2, f.AILCE, f.AIL}, blank), plan_left - value_left - gap))
         student_line({}, piece);
     student_end_ = y_;
 }
@@ -207,7 +182,7 @@ void ContractPaper::instalment(const GridView& plan, int row) {
     print_at(plan_left, plan.text(row, plan_grid::sno));
     print_at(6500, plan.text(row, plan_grid::vade));
     print_at(PrintSurface::right_aligned(amount_start, amount), amount);
-    const QStringList remark = broken(paper_, plan.text(row, plan_grid::ack), frame_right - gap - remark_left);
+    const QStringList remark = broken_text(paper_, plan.text(row, plan_grid::ack), frame_right - gap - remark_left);
     for (qsizetype i = 0; i < remark.size(); ++i) {
         if (i > 0) y_ += remark_step;
         print_at(remark_left, remark[i]);
@@ -250,7 +225,7 @@ void ContractPaper::note_address(double right) {
     const QString caption = u"Adresi      : "_s;
     double x = left;
     for (const QString& piece :
-         broken(paper_, caption + joined({f.ADRES1, f.ADRES2, f.AILCE, f.AIL}, u" "_s), right - gap - left)) {
+         broken_text(paper_, caption + joined({f.ADRES1, f.ADRES2, f.AILCE, f.AIL}, u" "_s), right - gap - left)) {
         print_at(x, piece);
         x = left + paper_.text_width(caption);
         y_ += step;

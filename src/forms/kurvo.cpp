@@ -19,6 +19,7 @@ constexpr int first_button_top = 480;  // twips
 constexpr int button_step = 240;
 constexpr int button_count = 6;
 constexpr int heading_height = 24;
+constexpr int both_session_lists = 1400;  // pixels
 
 // A style sheet looks at properties only when it is applied anew.
 void set_look(QWidget* widget, const char* property, bool on) {
@@ -50,11 +51,20 @@ Kurvo::Kurvo(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("Kurvo"));
     FrameSbul::setupUi(Frame_SBUL);
     FrameTahsil::setupUi(Frame_Tahsil);
+    FrameDevam::setupUi(Frame_Devam);
+    FrameEtud::setupUi(Frame_Etud);
+    FrameNot::setupUi(Frame_Not);
+    FrameToplu::setupUi(Frame_Toplu);
+    FrameDosyadan::setupUi(Frame_Dosyadan);
     bslk = {bslk_0, bslk_1, bslk_2};
     Shape = {Shape_0, Shape_1};
+    FToplu_OO = {nullptr, nullptr, nullptr, nullptr, FToplu_OO_4, FToplu_OO_5, FToplu_OO_6, FToplu_OO_7};
+    ChkY = {ChkY_0, ChkY_1, ChkY_2, ChkY_3, ChkY_4};
+    bas = {bas_0, bas_1, bas_2, bas_3, bas_4, bas_5, bas_6, bas_7, bas_8, bas_9};
     set_up_controls();
     set_up_list_column();
     set_up_collections();
+    set_up_overview();
     set_up_panels();
     set_up_shortcuts();
     watch(this);
@@ -72,12 +82,14 @@ void Kurvo::set_up_controls() {
     TabloAcKapa->setToolTip(QStringLiteral("Listeyi aç veya kapat"));
     FTahsil_Tablo2->setAccessibleName(QStringLiteral("Açık taksitler"));
     FTahsil_TABLO4->setAccessibleName(QStringLiteral("Tahsil edilecek taksitler"));
+    for (QComboBox* list : findChildren<QComboBox*>()) list->installEventFilter(this);
+    SSTab1->setAccessibleName(QStringLiteral("Öğrencinin bilgileri"));
+    SSTab2->setAccessibleName(QStringLiteral("Sınavlar"));
 }
 
 // As wide as the list's columns with its scroll bar, so that nothing of a name is lost and nothing is wasted.
 void Kurvo::set_up_list_column() {
     const int scroll_bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    SDONEM->installEventFilter(this);
     bslk[0]->setFixedWidth(pixels(500));
     bslk[1]->setFixedWidth(pixels(700));
     const int width = pixels(500) + pixels(700) + pixels(2500) + scroll_bar + 2 * TABLO->frameWidth();
@@ -107,9 +119,23 @@ void Kurvo::set_up_collections() {
     CommandOK->installEventFilter(this);
 }
 
+void Kurvo::set_up_overview() {
+    Ftoplu_FTABLO3 = new QFrame(this);
+    FrameTablo3::setupUi(Ftoplu_FTABLO3);
+    Ftoplu_FTABLO3->setObjectName(QStringLiteral("Ftoplu_FTABLO3"));
+    Ftoplu_FTABLO3->hide();
+    CommandYAZF->raise();
+    FToplu_FrameYaz->raise();
+}
+
 void Kurvo::set_up_panels() {
     panels_ = {{Panel::SBUL, Frame_SBUL, CommandSBUL, 1080, 360},
-               {Panel::Tahsil, Frame_Tahsil, CommandTAHSILAT, 120, 120}};
+               {Panel::Tahsil, Frame_Tahsil, CommandTAHSILAT, 120, 120},
+               {Panel::Devam, Frame_Devam, CommandDEVAMSIZLIK, 120, 120},
+               {Panel::Etud, Frame_Etud, CommandETUD, 120, 120},
+               {Panel::Not, Frame_Not, CommandNOT, 120, 120},
+               {Panel::Toplu, Frame_Toplu, CommandTOPLU, 120, 120},
+               {Panel::Dosyadan, Frame_Dosyadan, CommandDOSYADAN, 120, 120}};
     TABLO_SBUL->set_stretch_column(2);
     QSizePolicy keeps_its_place = FSBUL_msg->sizePolicy();
     keeps_its_place.setRetainSizeWhenHidden(true);
@@ -157,6 +183,9 @@ void Kurvo::panel_goster(Panel panel) {
 void Kurvo::lay_out_panels() {
     for (const PanelPlace& place : panels_)
         place.frame->setGeometry(Shape[1]->rect().adjusted(pixels(place.margin_x), pixels(place.margin_y), 0, 0));
+    // The student's sessions and the day board stand side by side where both fit with all their columns.
+    session_lists->setDirection(Frame_Etud->width() > both_session_lists ? QBoxLayout::LeftToRight
+                                                                         : QBoxLayout::TopToBottom);
 }
 
 void Kurvo::kilitle(const std::vector<QWidget*>& controls) {
@@ -206,16 +235,16 @@ void Kurvo::closeEvent(QCloseEvent* event) {
 
 // Esc leaves an overlay by its own way out, if it has one that may be used.
 void Kurvo::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && CommandGERI->isVisible() && CommandGERI->isEnabled())
-        CommandGERI->click();
-    else
-        QWidget::keyPressEvent(event);
+    if (event->key() == Qt::Key_Escape)
+        for (QPushButton* way_out : {CommandGERI, CommandVAZGECY})
+            if (way_out->isVisible() && way_out->isEnabled()) return way_out->click();
+    QWidget::keyPressEvent(event);
 }
 
 bool Kurvo::eventFilter(QObject* watched, QEvent* event) {
     if (watched == Shape[1] && event->type() == QEvent::Resize) lay_out_panels();
-    // A wheel that misses the list of students must not leave the term and with it the student.
-    if (watched == SDONEM && event->type() == QEvent::Wheel) return true;
+    // A wheel that misses the list of students must not leave the term, nor change the teacher of a session.
+    if (event->type() == QEvent::Wheel && qobject_cast<QComboBox*>(watched) != nullptr) return true;
     // The button that posts comes up under the pointer that has just pressed CommandTAHSIL: the second half of a
     // double click must not post.
     if (watched == CommandOK && event->type() == QEvent::MouseButtonDblClick) return true;

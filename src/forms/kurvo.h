@@ -2,8 +2,14 @@
 #pragma once
 
 #include "forms/window_rules.h"
+#include "ui_frame_devam.h"
+#include "ui_frame_dosyadan.h"
+#include "ui_frame_etud.h"
+#include "ui_frame_not.h"
 #include "ui_frame_sbul.h"
+#include "ui_frame_tablo3.h"
 #include "ui_frame_tahsil.h"
+#include "ui_frame_toplu.h"
 #include "ui_kurvo.h"
 
 #include <QWidget>
@@ -18,7 +24,13 @@ class Kurvo : public QWidget,
               public DefaultButtonRule,
               public Ui::KurvoForm,
               public Ui::FrameSbul,
-              public Ui::FrameTahsil {
+              public Ui::FrameTahsil,
+              public Ui::FrameDevam,
+              public Ui::FrameEtud,
+              public Ui::FrameNot,
+              public Ui::FrameToplu,
+              public Ui::FrameTablo3,
+              public Ui::FrameDosyadan {
     Q_OBJECT
 
 public:
@@ -26,7 +38,11 @@ public:
     ~Kurvo() override;
 
     std::array<ClickableLabel*, 3> bslk;
-    std::array<QFrame*, 2> Shape;  // the card and the work area
+    std::array<QFrame*, 2> Shape;        // the card and the work area
+    std::array<QLabel*, 8> FToplu_OO{};  // only 4 to 7 are on the form
+    std::array<QCheckBox*, 5> ChkY;
+    std::array<QLineEdit*, 10> bas;
+    QFrame* Ftoplu_FTABLO3;  // the pop-up with the collections of an instalment, over all panels
 
     enum class Panel { none, Tahsil, Devam, Etud, Not, Toplu, SBUL, Dosyadan };
     // Shows one panel, hides the others, and keeps the panel's button pressed as long as it is shown.
@@ -75,6 +91,7 @@ private:
     void set_up_controls();
     void set_up_list_column();
     void set_up_collections();
+    void set_up_overview();
     void set_up_panels();
     void set_up_shortcuts();
     void lay_out_panels();

@@ -31,13 +31,14 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole) return text(row, column);
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(alignments_[static_cast<std::size_t>(column)] | Qt::AlignVCenter);
-    if (formats_.empty() && column >= fixed_columns_) return {};
+    if (formats_.empty() && column >= fixed_columns_ && !cell_back_.isValid()) return {};
     const Format own = format(row, column);
-    if (role == Qt::BackgroundRole && own.back.isValid()) return own.back;
+    const QColor back = own.back.isValid() || column < fixed_columns_ ? own.back : cell_back_;
+    if (role == Qt::BackgroundRole && back.isValid()) return back;
     if (role == Qt::ForegroundRole) {
         if (own.fore.isValid()) return own.fore;
         // A cell's own colour is light: in a dark scheme the scheme's own light text could not be read on it.
-        if (own.back.isValid()) return QColor(Qt::black);
+        if (back.isValid()) return QColor(Qt::black);
     }
     if (role == Qt::FontRole && own.bold) {
         QFont font;
@@ -85,6 +86,11 @@ void GridModel::set_fixed(int rows, int columns) {
 void GridModel::set_fixed_colors(const QColor& back, const QColor& fore) {
     fixed_back_ = back;
     fixed_fore_ = fore;
+    all_changed();
+}
+
+void GridModel::set_cell_color(const QColor& back) {
+    cell_back_ = back;
     all_changed();
 }
 

@@ -25,6 +25,7 @@ public:
     int fixed_rows() const { return fixed_rows_; }
     int fixed_columns() const { return fixed_columns_; }
     void set_fixed_colors(const QColor& back, const QColor& fore);
+    void set_cell_color(const QColor& back);
 
     int rows() const { return rows_; }
     void set_rows(int rows);
@@ -64,7 +65,7 @@ private:
     std::vector<QString> cells_;  // row by row
     std::unordered_map<std::uint64_t, Format> formats_;
     std::vector<Qt::Alignment> alignments_;
-    QColor fixed_back_, fixed_fore_;
+    QColor fixed_back_, fixed_fore_, cell_back_;
     int rows_ = 0, columns_ = 0, shown_rows_ = 0;
     int fixed_rows_ = 0, fixed_columns_ = 0;
     int held_ = 0;

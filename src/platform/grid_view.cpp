@@ -1,10 +1,10 @@
 #include "platform/grid_view.h"
 
 #include "platform/grid_delegate.h"
+#include "platform/grid_header.h"
 #include "platform/grid_model.h"
 #include "platform/screen_units.h"
 
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -16,16 +16,6 @@ namespace {
 
 constexpr int default_width = 960;  // twips
 constexpr int hidden_width = 1;
-
-// The current row is seen at a glance and its text stays as legible as the others'.
-void soften_selection(QWidget& view) {
-    QPalette palette = view.palette();
-    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-        palette.setColor(group, QPalette::Highlight, QColor(0xCD, 0xDF, 0xEF));
-        palette.setColor(group, QPalette::HighlightedText, Qt::black);
-    }
-    view.setPalette(palette);
-}
 
 }  // namespace
 
@@ -39,8 +29,10 @@ GridView::GridView(QWidget* parent) : QTableView(parent), model_(std::make_uniqu
     setWordWrap(false);
     setHorizontalScrollMode(ScrollPerPixel);
     setCornerButtonEnabled(false);
-    soften_selection(*this);
+    // The current row is seen at a glance and its text stays as legible as the others'.
+    set_selection_colors(QColor(0xCD, 0xDF, 0xEF), Qt::black);
 
+    setHorizontalHeader(new GridHeader(this));
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->hide();
@@ -72,6 +64,19 @@ int GridView::fixed_columns() const {
 
 void GridView::set_fixed_colors(const QColor& back, const QColor& fore) {
     model_->set_fixed_colors(back, fore);
+}
+
+void GridView::set_cell_color(const QColor& back) {
+    model_->set_cell_color(back);
+}
+
+void GridView::set_selection_colors(const QColor& back, const QColor& fore) {
+    QPalette colors = palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        colors.setColor(group, QPalette::Highlight, back);
+        colors.setColor(group, QPalette::HighlightedText, fore);
+    }
+    setPalette(colors);
 }
 
 int GridView::rows() const {
@@ -235,8 +240,13 @@ void GridView::mousePressEvent(QMouseEvent* event) {
     const QModelIndex index = indexAt(event->position().toPoint());
     QTableView::mousePressEvent(event);
     pressed_ = index;
-    if (index.isValid() && index.column() >= fixed_columns())
+    if (!index.isValid()) return;
+    if (index.column() >= fixed_columns()) {
         emit cell_pressed(index.row() + fixed_rows(), index.column());
+    } else {
+        if (fixed_columns() < columns()) select(index.siblingAtColumn(fixed_columns()));
+        emit fixed_pressed(index.row() + fixed_rows(), index.column());
+    }
 }
 
 // With the button held the base class would drag the current cell along, away from an editor that the press opened.
@@ -247,20 +257,24 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
 void GridView::mouseReleaseEvent(QMouseEvent* event) {
     QTableView::mouseReleaseEvent(event);
     const QModelIndex pressed = std::exchange(pressed_, {});
-    if (event->button() != Qt::LeftButton || !pressed.isValid() || pressed.column() < fixed_columns()) return;
-    if (indexAt(event->position().toPoint()) == pressed)
+    if (event->button() != Qt::LeftButton || !pressed.isValid()) return;
+    if (indexAt(event->position().toPoint()) != pressed) return;
+    if (pressed.column() >= fixed_columns())
         emit cell_clicked(pressed.row() + fixed_rows(), pressed.column());
+    else
+        emit fixed_clicked(pressed.row() + fixed_rows(), pressed.column());
 }
 
 void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
     const QModelIndex index = indexAt(event->position().toPoint());
-    if (event->button() != Qt::LeftButton || !index.isValid() || index.column() < fixed_columns()) return;
+    if (event->button() != Qt::LeftButton || !index.isValid()) return;
+    const bool fixed = index.column() < fixed_columns();
     // Two quick clicks on neighbouring cells are two clicks.
-    if (index != currentIndex()) {
+    if (fixed ? index.row() != currentIndex().row() : index != currentIndex()) {
         mousePressEvent(event);
         return;
     }
-    emit cell_double_clicked(index.row() + fixed_rows(), index.column());
+    if (!fixed) emit cell_double_clicked(index.row() + fixed_rows(), index.column());
 }
 
 void GridView::changeEvent(QEvent* event) {

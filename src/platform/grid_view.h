@@ -27,6 +27,10 @@ public:
     int fixed_columns() const;
     // Colours of the heading row and of the fixed columns; without them they look as headings of the style.
     void set_fixed_colors(const QColor& back, const QColor& fore);
+    // Of body cells that have no colour of their own.
+    void set_cell_color(const QColor& back);
+    // Of the current row.
+    void set_selection_colors(const QColor& back, const QColor& fore);
 
     int rows() const;
     void set_rows(int rows);  // new cells are empty; at least the fixed rows stay
@@ -80,6 +84,9 @@ signals:
     void cell_clicked(int row, int column);
     void cell_pressed(int row, int column);
     void cell_double_clicked(int row, int column);
+    // The same on a fixed column of a body row; the row's first free cell is the current one then.
+    void fixed_clicked(int row, int column);
+    void fixed_pressed(int row, int column);
     void scrolled();
 
 protected:

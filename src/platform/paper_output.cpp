@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/paper_fonts.h"
 #include "platform/paths.h"
+#include "platform/rich_lines.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -51,6 +52,9 @@ public:
                 break;
             case Operation::Kind::picture:
                 painter_.drawImage(QRectF(begin, end), operation.picture);
+                break;
+            case Operation::Kind::rich_text:
+                operation.rich->draw(painter_, begin, operation.first_line, operation.end_line);
                 break;
         }
     }

@@ -1,7 +1,10 @@
-// A part of a paper as a table of texts at their places.
+// A part of a paper as a table of texts at their places, and texts that are wider than their place.
 #pragma once
 
 #include "platform/print_surface.h"
+
+#include <QRectF>
+#include <QStringList>
 
 #include <span>
 
@@ -19,3 +22,10 @@ inline void print_texts(PrintSurface& paper, double left, double top, std::span<
         paper.print(text.text);
     }
 }
+
+// Broken at blanks where it is wider than `width` twips in the current font, inside a word only where that alone is
+// wider. No piece for an empty text.
+QStringList broken_text(const PrintSurface& paper, QString text, double width);
+
+// The four lines of a box, in twips.
+void print_box(PrintSurface& paper, const QRectF& box);

@@ -2,6 +2,7 @@
 
 #include "platform/paper_fonts.h"
 #include "platform/paper_output.h"
+#include "platform/rich_lines.h"
 
 #include <utility>
 
@@ -53,6 +54,18 @@ void PrintSurface::picture(double x, double y, double width, double height, cons
     operation.x2 = x + width;
     operation.y2 = y + height;
     operation.picture = image;
+    pages_.back().push_back(std::move(operation));
+}
+
+void PrintSurface::rich_text(double x, double y, std::shared_ptr<const RichLines> lines, int first, int end) {
+    Operation operation;
+    operation.kind = Operation::Kind::rich_text;
+    operation.x = x;
+    operation.y = y;
+    operation.text = lines->text(first, end);
+    operation.rich = std::move(lines);
+    operation.first_line = first;
+    operation.end_line = end;
     pages_.back().push_back(std::move(operation));
 }
 

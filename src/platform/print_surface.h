@@ -10,6 +10,7 @@
 #include <vector>
 
 class PaperFonts;
+class RichLines;
 
 // Positions are twips (1440 to the inch) from the page's top left corner; X and Y are the top left of a text.
 // Nothing reaches the printer before end_document(); a surface destroyed before it prints nothing.
@@ -23,13 +24,15 @@ public:
         bool operator==(const Font&) const = default;
     };
     struct Operation {
-        enum class Kind { text, line, picture } kind = Kind::text;
+        enum class Kind { text, line, picture, rich_text } kind = Kind::text;
         double x = 0, y = 0;    // top left, or the line's first point
         double x2 = 0, y2 = 0;  // the line's second point, or the picture's lower right corner
-        QString text;
+        QString text;           // of a rich text the letters alone, a line feed behind each line but the last
         Font font;
         int width = 1;  // pen width of a line, in quarters of a point
         QImage picture;
+        std::shared_ptr<const RichLines> rich;  // a rich text's lines from first_line to before end_line
+        int first_line = 0, end_line = 0;
     };
     using Page = std::vector<Operation>;
     struct Document {
@@ -49,6 +52,7 @@ public:
     void bold(bool on) { font_.bold = on; }
     void italic(bool on) { font_.italic = on; }
     void line_width(int width) { width_ = width; }
+    int line_width() const { return width_; }
 
     void set_x(double twips) { x_ = twips; }
     void set_y(double twips) { y_ = twips; }
@@ -60,6 +64,8 @@ public:
     void print_line(const QString& text);  // then goes to the next line at the left edge
     void line(double x1, double y1, double x2, double y2);
     void picture(double x, double y, double width, double height, const QImage& image);
+    // Lines of a rich text with their own fonts and colours; the position stays.
+    void rich_text(double x, double y, std::shared_ptr<const RichLines> lines, int first, int end);
 
     void new_page();  // the position goes to the top left corner
     // Sends the document to the printer of $KURVO_PRINTER ("pdf:FOLDER" for files, or a printer's name), else to

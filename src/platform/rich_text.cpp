@@ -6,6 +6,7 @@
 #include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextEdit>
 
 namespace rich_text {
 
@@ -89,10 +90,14 @@ private:
             format.setFontFamilies({name});
         if (style.half_points > 0) format.setFontPointSize(style.half_points / 2.0);
         if (const auto color = reader.color(style.color)) format.setForeground(QColor(*color));
+        if (const auto color = reader.color(style.background); style.background > 0 && color)
+            format.setBackground(QColor(*color));
         if (style.bold) format.setFontWeight(QFont::Bold);
         if (style.italic) format.setFontItalic(true);
         if (style.underline) format.setFontUnderline(true);
         if (style.strike) format.setFontStrikeOut(true);
+        if (style.script == rtf::Script::above) format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
+        if (style.script == rtf::Script::below) format.setVerticalAlignment(QTextCharFormat::AlignSubScript);
         return format;
     }
 
@@ -123,6 +128,12 @@ void load(const QString& value, QTextDocument& document) {
     }
     document.setUndoRedoEnabled(undo);
     document.setModified(false);
+}
+
+void load(const QString& value, QTextEdit& box) {
+    load(value, *box.document());
+    // A new cursor forgets the format that was chosen for the next letter, too.
+    box.setTextCursor(QTextCursor(box.document()));
 }
 
 }  // namespace rich_text

@@ -206,6 +206,15 @@ bool Reader::apply_style(Action action, const Word& word) {
         case Action::strike:
             style.strike = word.on();
             return true;
+        case Action::superscript:
+            style.script = word.on() ? Script::above : Script::normal;
+            return true;
+        case Action::subscript:
+            style.script = word.on() ? Script::below : Script::normal;
+            return true;
+        case Action::script_end:
+            style.script = Script::normal;
+            return true;
         case Action::hidden:
             now_.hidden = word.on();
             return true;
@@ -214,6 +223,9 @@ bool Reader::apply_style(Action action, const Word& word) {
             return true;
         case Action::color:
             style.color = std::max(word.number, 0);
+            return true;
+        case Action::background:
+            style.background = std::max(word.number, 0);
             return true;
         case Action::font:
             select_font(word.number);

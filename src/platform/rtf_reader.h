@@ -14,15 +14,19 @@ namespace rtf {
 
 enum class Action : unsigned char;
 
+enum class Script : std::uint8_t { normal, above, below };
+
 // How a run of text looks. Unset (font -1, size 0, colour 0) means as the document has it.
 struct Style {
     int font = -1;
     int half_points = 0;
     int color = 0;
+    int background = 0;
     bool bold = false;
     bool italic = false;
     bool underline = false;
     bool strike = false;
+    Script script = Script::normal;
     bool operator==(const Style&) const = default;
 };
 

@@ -74,10 +74,13 @@ private:
         if (style.font >= 0) body_ += QStringLiteral("\\f%1").arg(style.font);
         if (style.half_points > 0) body_ += QStringLiteral("\\fs%1").arg(style.half_points);
         if (style.color > 0) body_ += QStringLiteral("\\cf%1").arg(style.color);
+        if (style.background > 0) body_ += QStringLiteral("\\highlight%1").arg(style.background);
         if (style.bold) body_ += QStringLiteral("\\b");
         if (style.italic) body_ += QStringLiteral("\\i");
         if (style.underline) body_ += QStringLiteral("\\ul");
         if (style.strike) body_ += QStringLiteral("\\strike");
+        if (style.script == rtf::Script::above) body_ += QStringLiteral("\\super");
+        if (style.script == rtf::Script::below) body_ += QStringLiteral("\\sub");
         behind_word_ = true;
     }
 
@@ -90,6 +93,10 @@ private:
         else if (format.hasProperty(QTextFormat::FontPixelSize))
             style.half_points = qRound(format.intProperty(QTextFormat::FontPixelSize) * 1.5);  // 96 to the inch
         if (format.foreground().style() != Qt::NoBrush) style.color = color_number(format.foreground().color());
+        if (const QBrush back = format.background(); back.style() != Qt::NoBrush && back.color().alpha() > 0)
+            style.background = color_number(back.color());
+        if (format.verticalAlignment() == QTextCharFormat::AlignSuperScript) style.script = rtf::Script::above;
+        if (format.verticalAlignment() == QTextCharFormat::AlignSubScript) style.script = rtf::Script::below;
         style.bold = font.bold();
         style.italic = font.italic();
         style.underline = font.underline();

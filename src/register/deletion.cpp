@@ -26,7 +26,7 @@ constexpr IndexedTable tables_in_order[] = {{"Odeme", "OVX"},     {"Devam", "OTD
 }  // namespace
 
 Deletion::Deletion(KurvoYeni& form, SessionContext& session, RecordForm& record, MainScreen main,
-                   std::function<void(std::int64_t)> remove_remote)
+                   std::function<void(const KurvoYeni&)> remove_remote)
     : form_(form), session_(session), record_(record), main_(main), remove_remote_(std::move(remove_remote)) {
     on(form_.CommandSIL, &QPushButton::clicked, this, [this] { CommandSIL_Click(); });
 }
@@ -39,7 +39,7 @@ void Deletion::CommandSIL_Click() {
     remove_photo();
     for (const auto& [table, index] : tables_in_order) remove_rows(table, index, student);
     remove_student();
-    if (!session_.remoteSchoolKey.isEmpty()) remove_remote_(student);
+    if (!session_.remoteSchoolKey.isEmpty()) remove_remote_(form_);
     main_.list.listeyi_yenile();
     record_.CommandTEMIZLE_Click();
 }

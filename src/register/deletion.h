@@ -15,9 +15,9 @@ class Deletion : public QObject {
     Q_OBJECT
 
 public:
-    // `remove_remote` takes the student of the number out of the remote directory.
+    // `remove_remote` takes the student on the form out of the remote directory.
     Deletion(KurvoYeni& form, SessionContext& session, RecordForm& record, MainScreen main,
-             std::function<void(std::int64_t)> remove_remote);
+             std::function<void(const KurvoYeni&)> remove_remote);
 
 private:
     void CommandSIL_Click();
@@ -29,5 +29,5 @@ private:
     SessionContext& session_;
     RecordForm& record_;
     MainScreen main_;
-    std::function<void(std::int64_t)> remove_remote_;
+    std::function<void(const KurvoYeni&)> remove_remote_;
 };

@@ -3,6 +3,7 @@
 #include "collections/invoice.h"
 #include "platform/paths.h"
 #include "platform/slots.h"
+#include "web/remote_directory.h"
 
 #include <QCoreApplication>
 
@@ -10,12 +11,26 @@ Program::Program()
     : terms_(kurvo_, session_),
       institution_flag_(kurvo_, session_),
       statement_(kurvo_, session_),
+      attendance_summaries_(kurvo_, session_, terms_),
+      attendance_entry_(kurvo_, session_, terms_, [this] { attendance_summaries_.devam_toplu_doldur(); }),
+      session_summaries_(kurvo_, session_, terms_),
+      day_board_(kurvo_, session_),
+      booking_(kurvo_, session_,
+               {[this] { day_board_.gun_tahtasi_doldur(); }, [this] { session_summaries_.etud_toplu_doldur(); }}),
+      notes_(kurvo_, session_),
+      overview_(kurvo_, session_),
+      dossier_(kurvo_, session_),
       card_(kurvo_, session_, followers()),
       list_(kurvo_, session_, card_),
       search_(kurvo_, session_, list_),
-      record_window_(session_, terms_, {kurvo_, list_, card_}, {[](std::int64_t) {}, [](std::int64_t) {}}),
+      import_(kurvo_, session_, list_),
+      photos_(kurvo_, session_, card_),
+      record_window_(session_, terms_, {kurvo_, list_, card_},
+                     {[this](const KurvoYeni& form) { RemoteDirectory(session_).uzak_ogrenci_yaz(form); },
+                      [this](const KurvoYeni& form) { RemoteDirectory(session_).uzak_ogrenci_sil(form); }}),
       collections_(kurvo_, session_, terms_),
-      posting_(kurvo_, session_, statement_, collections_, {[this] { fatura_yaz(kurvo_, session_); }, {}}),
+      posting_(kurvo_, session_, statement_, collections_,
+               {[this] { fatura_yaz(kurvo_, session_); }, [this] { dossier_.plan_yaz(); }}),
       start_up_(kurvo_, session_, terms_, institution_flag_) {
     on(&terms_, &Terms::opened, this, [this] { list_.term_opened(); });
     on(&start_up_, &StartUp::flags_read, this, [this] { list_.apply_list_state(); });
@@ -33,7 +48,16 @@ bool Program::start() {
 
 CardFollowers Program::followers() {
     CardFollowers followers;
+    followers.show_note = [this] { notes_.show_note(); };
+    followers.show_overview = [this] { overview_.show_student(); };
+    followers.devam_toplu_doldur = [this] { attendance_summaries_.devam_toplu_doldur(); };
+    followers.etud_toplu_doldur = [this] { session_summaries_.etud_toplu_doldur(); };
     followers.odeme_durumu = [this] { statement_.odeme_durumu(); };
+    followers.devam_gunu_yukle = [this] { attendance_entry_.devam_gunu_yukle(); };
+    followers.etud_liste_doldur = [this] { booking_.etud_liste_doldur(); };
+    followers.default_button = [this] {
+        return kurvo_.Frame_Devam->isVisible() ? kurvo_.FDevam_CommandKAYDET : kurvo_.CommanOK;
+    };
     return followers;
 }
 

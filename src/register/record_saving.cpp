@@ -45,7 +45,7 @@ QString normalised_telephone(QString number) {
 }  // namespace
 
 RecordSaving::RecordSaving(KurvoYeni& form, SessionContext& session, RecordForm& record, MainScreen screen,
-                           std::function<void(std::int64_t)> publish)
+                           std::function<void(const KurvoYeni&)> publish)
     : form_(form), session_(session), record_(record), screen_(screen), publish_(std::move(publish)) {
     on(form_.CommandKAYDET, &QPushButton::clicked, this, [this] { CommandKAYDET_Click(); });
 }
@@ -58,8 +58,7 @@ void RecordSaving::CommandKAYDET_Click() {
     const double number = record_.number();
     const QString saved = numbers::plain(number) + u' ' + form_.ADSOY->text().trimmed();
     ogrenci_yaz();
-    if (!session_.remoteSchoolKey.isEmpty() && record_.published_values_differ())
-        publish_(static_cast<std::int64_t>(number));
+    if (!session_.remoteSchoolKey.isEmpty() && record_.published_values_differ()) publish_(form_);
     screen_.list.listeyi_yenile();
     screen_.show_student(numbers::plain(number));
     record_.CommandTEMIZLE_Click();

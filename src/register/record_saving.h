@@ -4,10 +4,10 @@
 #include "register/main_screen.h"
 #include "register/record_form.h"
 
-// How the student of a number comes into the school's remote directory and out of it. Both are called only where the
-// school has a key there.
+// How the student on the record form comes into the school's remote directory and out of it. Both are called only where
+// the school has a key there.
 struct Publishing {
-    std::function<void(std::int64_t number)> publish, remove;
+    std::function<void(const KurvoYeni&)> publish, remove;
 };
 
 class RecordSaving : public QObject {
@@ -16,7 +16,7 @@ class RecordSaving : public QObject {
 public:
     // `publish` is called where a published value has changed.
     RecordSaving(KurvoYeni& form, SessionContext& session, RecordForm& record, MainScreen screen,
-                 std::function<void(std::int64_t)> publish);
+                 std::function<void(const KurvoYeni&)> publish);
 
     // All checks, then the row, list and card, and an empty form; or a form that stays as it is, but for telephones
     // that have lost their blanks.
@@ -41,5 +41,5 @@ private:
     SessionContext& session_;
     RecordForm& record_;
     MainScreen screen_;
-    std::function<void(std::int64_t)> publish_;
+    std::function<void(const KurvoYeni&)> publish_;
 };

@@ -4,11 +4,10 @@
 #include "platform/control_events.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
+#include "platform/picture_file.h"
 #include "platform/rich_text.h"
 #include "platform/slots.h"
 #include "register/text_color.h"
-
-#include <QImageReader>
 
 #include <span>
 
@@ -31,15 +30,6 @@ void show_decoded(QLabel* label, const QString& code, std::span<const QStringVie
 
 QString behind_blank(const QString& text) {
     return u' ' + text;
-}
-
-// Decoded at the size it is shown in; a null image for what is no picture.
-QImage picture_within(const QString& name, const QSize& space) {
-    QImageReader reader(paths::native(name));
-    reader.setDecideFormatFromContent(true);
-    if (reader.size().isValid())
-        reader.setScaledSize(reader.size().scaled(space, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-    return reader.read();
 }
 
 }  // namespace
@@ -88,24 +78,34 @@ void StudentCard::ogrenci_goster() {
     kurvo_.LKAYTAR->setText(behind_blank(dates::shown(field("KAYTAR"))));
     for (QLabel* total : {kurvo_.TTUTAR, kurvo_.TODENEN, kurvo_.TBORC}) total->clear();
     fill_codes();
+    if (followers_.show_note) followers_.show_note();
     fill_invoice_defaults();
     run_followers();
 }
 
 void StudentCard::foto_goster(const QString& path) {
-    QLabel& picture = *kurvo_.Image1;
-    picture.clear();
+    kurvo_.Image1->clear();
+    kurvo_.Image1->setToolTip({});
     if (path.trimmed().isEmpty()) return;
     try {
         const QString name = path.contains(u":\\") ? path : session_.photoFolder + path;
         if (!paths::exists(name)) return;
-        const qreal ratio = picture.devicePixelRatioF();
-        QPixmap shown = QPixmap::fromImage(picture_within(name, picture.contentsRect().size() * ratio));
-        shown.setDevicePixelRatio(ratio);
-        picture.setPixmap(shown);
+        const QImage picture = picture_within(name, place_of_picture());
+        if (!picture.isNull()) show_picture(picture);
     } catch (const std::exception&) {
         // A picture that cannot be read is no reason to keep a parent waiting: the card goes without.
     }
+}
+
+QSize StudentCard::place_of_picture() const {
+    return kurvo_.Image1->contentsRect().size() * kurvo_.Image1->devicePixelRatioF();
+}
+
+void StudentCard::show_picture(const QImage& picture) {
+    QPixmap shown =
+        QPixmap::fromImage(picture.scaled(place_of_picture(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    shown.setDevicePixelRatio(kurvo_.Image1->devicePixelRatioF());
+    kurvo_.Image1->setPixmap(shown);
 }
 
 QString StudentCard::field(std::string_view name) {
@@ -158,6 +158,7 @@ void StudentCard::run_followers() {
         if (follower) follower();
     };
     if (!kurvo_.CommandTOPLU->isHidden()) {
+        run(followers_.show_overview);
         run(followers_.devam_toplu_doldur);
         run(followers_.etud_toplu_doldur);
         run(followers_.odeme_durumu);

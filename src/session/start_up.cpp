@@ -7,6 +7,7 @@
 #include "session/panel_setup.h"
 #include "session/parameter_files.h"
 #include "session/rights_mask.h"
+#include "session/scratch_file.h"
 #include "session/user_options.h"
 #include "session/version_check.h"
 
@@ -14,7 +15,6 @@
 
 namespace {
 
-const QString scratch_file = QStringLiteral("c:\\qlm\\siletud.mdb");
 const QString programs_file = QStringLiteral("c:\\qlm\\Psys.mdb");
 
 // The day board's scratch file of a run that was cut off. A journal left alone would be played back into the
@@ -58,8 +58,10 @@ bool StartUp::run() {
 
     kurvo_.show();
     parametre_oku_gosterimden_sonra();
-    set_up_panels(kurvo_);
+    set_up_panels(kurvo_, session_);
     session_.reference = load_reference_lists(session_.reference_file(), !kurvo_.CommandETUD->isHidden());
+    fill_lessons(kurvo_, session_);
+    set_up_exams(kurvo_);
     if (!session_.remoteSchoolKey.isEmpty())
         kurvo_.setWindowTitle(kurvo_.windowTitle() + QStringLiteral("    (%1)").arg(session_.remoteSchoolKey));
     return true;
@@ -74,6 +76,7 @@ bool StartUp::check_version() {
 
 void StartUp::parametre_oku_gosterimden_once() {
     parameter_files::read_prmt(session_);
+    set_up_note_fonts(kurvo_);
     kurvo_.ComboKASATIP->clear();
     kurvo_.ComboKASATIP->addItems(parameter_files::read_kasa_tip(session_));
     kurvo_.ComboKASATIP->setCurrentIndex(0);

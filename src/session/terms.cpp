@@ -1,6 +1,7 @@
 #include "session/terms.h"
 
 #include "forms/kurvo.h"
+#include "platform/cell_editor.h"
 #include "platform/grid_view.h"
 #include "platform/paths.h"
 #include "platform/slots.h"
@@ -18,6 +19,17 @@ QStringList other_terms(const SessionContext& session) {
         if (end >= 0 && name.left(end) != session.termCode) terms.append(name.left(end));
     }
     return terms;
+}
+
+void empty_columns(GridView& grid, int first, int last) {
+    for (int row = 1; row < grid.rows(); ++row)
+        for (int column = first; column <= last; ++column) grid.set_text(row, column, {});
+}
+
+void empty_absences(GridView& lessons, GridView& days, std::initializer_list<QLabel*> totals) {
+    empty_columns(lessons, 2, 4);
+    days.set_rows(1);
+    for (QLabel* total : totals) total->setText(QStringLiteral("0"));
 }
 
 }  // namespace
@@ -65,7 +77,12 @@ void Terms::leave_student() {
     emit leaving();
     forget_student();
     empty_card();
+    kurvo_.Text1->clear();
     empty_collections();
+    if (!kurvo_.CommandDEVAMSIZLIK->isHidden()) empty_attendance();
+    if (!kurvo_.CommandETUD->isHidden()) empty_sessions();
+    if (!kurvo_.CommandTOPLU->isHidden()) empty_overview();
+    if (!kurvo_.CommandTOPLU->isHidden() || !kurvo_.CommandTAHSILAT->isHidden()) empty_statement();
 }
 
 void Terms::forget_student() {
@@ -91,6 +108,35 @@ void Terms::empty_collections() {
     kurvo_.FTahsil_Tablo2->set_rows(0);
     kurvo_.ODENEN->clear();
     kurvo_.KASAODENEN->clear();
+}
+
+// Lessons that stood there for the former student's day alone go too.
+void Terms::empty_attendance() {
+    kurvo_.FDevam_Cel_In->hide();
+    kurvo_.FDevam_Tablo2->set_rows(static_cast<int>(session_.reference.lessons.size()) + 1);
+    empty_columns(*kurvo_.FDevam_Tablo2, 2, 4);
+    kurvo_.MAZERET->clear();
+}
+
+void Terms::empty_sessions() {
+    for (GridView* sessions : {kurvo_.FEtud_Tablo1, kurvo_.FEtud_Tablo2}) sessions->set_rows(1);
+}
+
+void Terms::empty_overview() {
+    kurvo_.FToplu_Text1->clear();
+    for (std::size_t i = 4; i < kurvo_.FToplu_OO.size(); ++i) kurvo_.FToplu_OO[i]->clear();
+    empty_absences(*kurvo_.FToplu_DERSLER, *kurvo_.FToplu_DEVAMS,
+                   {kurvo_.FToplu_TOP1, kurvo_.FToplu_TOP2, kurvo_.FToplu_TOP3});
+    empty_absences(*kurvo_.FToplu_DERSLERe, *kurvo_.FToplu_DEVAMSe,
+                   {kurvo_.FToplu_TOP1e, kurvo_.FToplu_TOP2e, kurvo_.FToplu_TOP3e});
+    kurvo_.FToplu_ETUDLER->set_rows(1);
+    empty_columns(*kurvo_.FToplu_DERSLER_ETUD, 2, 3);
+}
+
+void Terms::empty_statement() {
+    kurvo_.FToplu_Tablo2->set_rows(1);
+    kurvo_.FToplu_KTUTAR->clear();
+    kurvo_.FToplu_TFARK->clear();
 }
 
 void Terms::empty_search() {

@@ -14,7 +14,7 @@ using Kind = ReadRequest::Kind;
 constexpr int first_batch = 32;
 constexpr int batch_after_write = 8;
 constexpr std::size_t most_values = 16384;  // of a batch that has grown
-constexpr std::size_t usual_width = 16;
+constexpr std::size_t least_width = 8;  // that is reckoned with
 
 }  // namespace
 
@@ -23,7 +23,8 @@ Recordset::Cursor::Cursor(std::shared_ptr<Database::Session> session, std::strin
       info_(session_->engine().table(table)),
       index_(&info_.index_at(0)),
       writes_(&session_->writes_to(info_.definition().name)),
-      followers_(info_.field_count(), 0) {}
+      followers_(info_.field_count(), 0),
+      decoded_(info_.field_count()) {}
 
 void Recordset::Cursor::misuse(QStringView what) const {
     throw messages::error(what, file(), info_.definition().name);
@@ -38,12 +39,17 @@ void Recordset::Cursor::set_index(std::string_view name) {
     place_ = Place::at_first;
 }
 
+void Recordset::Cursor::turn() {
+    is_wide_ = false;
+    ++turn_;
+}
+
 void Recordset::Cursor::read(Kind kind, FieldUse& use, std::span<const Value> keys, RowId row) {
     place_ = Place::nowhere;  // until the rows are there
     use_ = &use;
     at_ = 0;
     too_narrow_ = false;
-    wide_.rows.clear();
+    turn();
     const int limit = kind == Kind::last || &use == &index_->point ? 1 : limit_;
     session_->engine().read({kind, info_, index_number_, use.next(), keys, row, limit, leading_ ? &*leading_ : nullptr},
                             batch_);
@@ -137,7 +143,7 @@ void Recordset::Cursor::move_next() {
     settle();
     if (place_ == Place::past_end || place_ == Place::nowhere) misuse(u"İlerlenecek kayıt yok");
     const bool is_last_read = at_ + 1 == batch_.size();
-    wide_.rows.clear();
+    turn();
     if (!is_fresh() || (is_last_read ? !batch_.complete : too_narrow_)) return read_on();
     place_ = is_last_read ? Place::past_end : Place::on_row;
     if (!is_last_read) ++at_;
@@ -145,7 +151,7 @@ void Recordset::Cursor::move_next() {
 
 void Recordset::Cursor::read_on() {
     const int most_rows =
-        static_cast<int>(most_values / std::max<std::size_t>(batch_.projection->width(), usual_width));
+        static_cast<int>(most_values / std::max<std::size_t>(batch_.projection().width(), least_width));
     limit_ = is_fresh() ? std::min(limit_ * 4, most_rows) : batch_after_write;
     if (leading_ && compare_keys(current_key(0), *leading_) != 0) leading_.reset();
     const std::vector<Value> keys = current_keys();
@@ -173,11 +179,12 @@ void Recordset::Cursor::require_no_edit() const {
     if (edit_) misuse(u"Kayıt değişikliği bitmeden başka kayda geçilemez");
 }
 
-const Value& Recordset::Cursor::current_key(std::size_t key) const {
-    return batch_.at(at_, batch_.projection->slot_of(index_->fields[key]));
+const Value& Recordset::Cursor::current_key(std::size_t key) {
+    const int field = index_->fields[key];
+    return decoded(field, {batch_, at_, batch_.projection().slot_of(field)});
 }
 
-std::vector<Value> Recordset::Cursor::current_keys() const {
+std::vector<Value> Recordset::Cursor::current_keys() {
     std::vector<Value> keys;
     for (std::size_t key = 0; key < index_->fields.size(); ++key) keys.push_back(current_key(key));
     return keys;
@@ -198,7 +205,7 @@ void Recordset::Cursor::refresh() {
     stamp_ = stamp;
     limit_ = batch_after_write;
     too_narrow_ = false;
-    wide_.rows.clear();
+    turn();
 }
 
 // Rows are read field by field in the same order: what followed this field in the last row is tried first.
@@ -212,26 +219,51 @@ int Recordset::Cursor::field_number(std::string_view name) {
     return last_field_ = follower;
 }
 
-const Value& Recordset::Cursor::value(int field) {
+Recordset::Cursor::Spot Recordset::Cursor::find(int field) {
     session_->engine();
+    if (place_ != Place::on_row) require_row();
+    if (!is_fresh()) refresh();
+    use_->touch(field);
+    const int slot = batch_.projection().slot_of(field);
+    return slot >= 0 ? Spot{batch_, at_, slot} : find_in_wide_row(field);
+}
+
+// A field that nobody had asked for: the row is read whole, and the next batch brings the field along.
+Recordset::Cursor::Spot Recordset::Cursor::find_in_wide_row(int field) {
+    too_narrow_ = true;
+    if (!is_wide_ && !read_row(wide_, info_.all_fields()))
+        throw messages::outcome(Errc::row_gone, file(), info_.definition().name);
+    is_wide_ = true;
+    return {wide_, 0, field};
+}
+
+const Value& Recordset::Cursor::decoded(int field, const Spot& spot) {
+    Decoded& kept = decoded_[static_cast<std::size_t>(field)];
+    if (kept.turn != turn_) kept = {turn_, spot.batch.value(spot.row, spot.slot, session_->texts())};
+    return kept.value;
+}
+
+const Value& Recordset::Cursor::value(int field) {
     if (edit_) {
+        session_->engine();
         if (const Value* assigned = edit_->assigned(field)) return *assigned;
         static const Value null;
         if (!edit_->lock) return null;
     }
-    if (place_ != Place::on_row) require_row();
-    if (!is_fresh()) refresh();
-    use_->touch(field);
-    const int slot = batch_.projection->slot_of(field);
-    return slot >= 0 ? batch_.at(at_, slot) : value_of_wide_row(field);
+    return decoded(field, find(field));
 }
 
-// A field that nobody had asked for: the row is read whole, and the next batch brings the field along.
-const Value& Recordset::Cursor::value_of_wide_row(int field) {
-    too_narrow_ = true;
-    if (wide_.size() == 0 && !read_row(wide_, info_.all_fields()))
-        throw messages::outcome(Errc::row_gone, file(), info_.definition().name);
-    return wide_.at(0, field);
+// What is read once needs no Value.
+QString Recordset::Cursor::text(int field) {
+    if (edit_) return value(field).text();
+    const Spot spot = find(field);
+    return spot.batch.text(spot.row, spot.slot, session_->texts());
+}
+
+double Recordset::Cursor::number(int field) {
+    if (edit_) return value(field).number();
+    const Spot spot = find(field);
+    return spot.batch.number(spot.row, spot.slot, session_->texts());
 }
 
 }  // namespace store

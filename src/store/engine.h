@@ -2,8 +2,10 @@
 // an engine knows files, connections or a query language.
 #pragma once
 
+#include "store/batch.h"
 #include "store/record.h"
-#include "store/table_info.h"
+
+#include <QStringList>
 
 #include <cstdint>
 #include <memory>
@@ -12,28 +14,6 @@
 #include <vector>
 
 namespace store {
-
-// Names a row of a table for as long as it lives; grows in order of entry.
-using RowId = std::int64_t;
-
-// Rows that were read together.
-struct Batch {
-    ProjectionPtr projection;
-    std::vector<RowId> rows;
-    std::vector<Value> values;  // row after row, projection->width() each
-    bool complete = false;      // nothing follows in the order of the read
-
-    std::size_t size() const { return rows.size(); }
-    const Value& at(std::size_t row, int slot) const {
-        return values[row * projection->width() + static_cast<std::size_t>(slot)];
-    }
-    void clear(const ProjectionPtr& columns) {
-        projection = columns;
-        rows.clear();
-        values.clear();
-        complete = false;
-    }
-};
 
 // What to read. Keys are of their fields' types (conversion.h), leading fields first.
 struct ReadRequest {
@@ -79,6 +59,14 @@ public:
     virtual void read(const ReadRequest& request, Batch& result) = 0;
     virtual std::int64_t count(const TableInfo& table) = 0;
 
+    // Another number as soon as another opener of the file has committed a write.
+    virtual std::int64_t version() = 0;
+    // Copies the whole file as it stands at one moment: to a new file, on the disk when this returns, or into one of
+    // ours as a single write. Holds no lock for longer than a moment while others write.
+    virtual void copy_to(const QString& name, const QString& native_path) = 0;
+    // What is wrong with the file's structure, in the engine's own words; empty for a sound one.
+    virtual QStringList damages() = 0;
+
     // Waits up to 5 s for another writer of this file. `table` is named in the message.
     virtual void begin(std::string_view table) = 0;
     virtual void commit(std::string_view table) = 0;
@@ -101,5 +89,8 @@ std::unique_ptr<Engine> create_engine(const QString& name, const QString& native
 
 // A new file with these tables, on the disk when this returns; what is there after a failure is no database.
 void create_engine_file(const QString& name, const QString& native_path, const std::vector<TableDef>& tables);
+
+// Renames a file, with what its engine keeps beside it, by the ending ".bozuk".
+void set_engine_file_aside(const QString& name, const QString& native_path);
 
 }  // namespace store

@@ -98,6 +98,12 @@ void Recordset::Close() {
 const Value& Field::value() const {
     return owner_.cursor().value(field_);
 }
+QString Field::text() const {
+    return owner_.cursor().text(field_);
+}
+double Field::number() const {
+    return owner_.cursor().number(field_);
+}
 void Field::operator=(const Value& value) {
     owner_.cursor().assign(field_, value);
 }

@@ -67,9 +67,9 @@ void create_file(const QString& path, const std::vector<TableDef>& tables);
 // What a record set gives for a field: reads convert, an assignment goes to the edit buffer.
 class Field {
 public:
-    const Value& value() const;
-    QString text() const { return value().text(); }     // Null is an empty text
-    double number() const { return value().number(); }  // Null is 0
+    const Value& value() const;  // holds until the cursor moves or the row is written
+    QString text() const;        // Null is an empty text
+    double number() const;       // Null is 0
     std::int64_t whole_number() const { return value().whole_number(); }
     const Value& required() const;  // throws on Null, naming the field
     // Legal between Edit or AddNew and Update only; converts to the field's type.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "store/engine.h"
+#include "store/short_texts.h"
 #include "store/write_counters.h"
 
 #include <memory>
@@ -16,6 +17,7 @@ struct Database::Session {
     Engine& engine() const;  // throws when closed
     bool is_open() const { return engine_ != nullptr; }
     const QString& name() const { return name_; }
+    ShortTexts& texts() { return texts_; }
     std::uint64_t& writes_to(const std::string& table) { return counters_->of(table); }
     void close();  // drops an open transaction
 
@@ -38,6 +40,7 @@ private:
 
     QString name_;
     std::unique_ptr<Engine> engine_;
+    ShortTexts texts_;  // that were asked for
     std::shared_ptr<WriteCounters> counters_;
     std::uint64_t transaction_ = 0;  // a number for each; an edit of a former one has lost its lock
     int edits_ = 0;

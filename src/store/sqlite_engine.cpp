@@ -19,6 +19,7 @@ using Form = ReadShape::Form;
 constexpr auto longest_wait = std::chrono::seconds(5);
 // Short against the 2 ms for which a busy writer leaves the file free, so that a waiting workstation gets its turn.
 constexpr auto poll_interval = std::chrono::milliseconds(2);
+constexpr int long_read = 256;  // rows
 
 int collate(void*, int left_size, const void* left, int right_size, const void* right) {
     return turkish::compare_utf8(static_cast<const char*>(left), left_size, static_cast<const char*>(right),
@@ -104,10 +105,10 @@ SqliteStatement& SqliteEngine::statement(const std::string& sql) {
 void SqliteEngine::read(const ReadRequest& request, Batch& result) {
     result.clear(request.columns);
     guarded(request.table.definition().name, [&] {
-        if (request.kind == ReadRequest::Kind::after && null_mask(request.keys) != 0)
-            read_behind_null(request, result);
-        else
-            read_rows(request, result);
+        const bool by_ranges =
+            request.kind == ReadRequest::Kind::after &&
+            (null_mask(request.keys) != 0 || (request.keys.size() > 1 && request.limit >= long_read));
+        result.complete = by_ranges ? read_by_ranges(request, result) : read_at_once(request, result);
     });
 }
 
@@ -120,7 +121,7 @@ SqliteStatement& SqliteEngine::select(const ReadRequest& request, const ReadShap
     return reads_.try_emplace(code, connection_.get(), sql).first->second;
 }
 
-void SqliteEngine::read_rows(const ReadRequest& request, Batch& result) {
+bool SqliteEngine::read_at_once(const ReadRequest& request, Batch& result) {
     const bool behind_row = request.row != ReadRequest::no_row;
     const int keys = static_cast<int>(request.keys.size());
     ReadShape shape{Form::all, request.index, keys, null_mask(request.keys)};
@@ -144,12 +145,13 @@ void SqliteEngine::read_rows(const ReadRequest& request, Batch& result) {
     }
     SqliteStatement& rows = select(request, shape);
     bind_keys(rows, request.keys, request.row);
-    take_rows(rows, request, result);
+    return take_rows(rows, request, result);
 }
 
-// A comparison with Null finds nothing, so the rows behind a key that holds one are read range by range: the later ones
-// with equal keys, then those that are greater in the last key, in the one before it, and so on.
-void SqliteEngine::read_behind_null(const ReadRequest& request, Batch& result) {
+// The rows behind a key range by range: the later ones with equal keys, then those that are greater in the last key, in
+// the one before it, and so on. A comparison with Null finds nothing, so a key that holds one needs this; and a
+// comparison of several keys as one is made for each row anew, which the ranges of a long read save.
+bool SqliteEngine::read_by_ranges(const ReadRequest& request, Batch& result) {
     const auto mask = null_mask(request.keys);
     const auto take = [&](Form form, std::size_t keys, RowId row) {
         const auto leading = request.keys.first(keys);
@@ -157,11 +159,13 @@ void SqliteEngine::read_behind_null(const ReadRequest& request, Batch& result) {
         bind_keys(rows, leading, row);
         return take_rows(rows, request, result);
     };
-    if (request.row != ReadRequest::no_row && !take(Form::equal_later_row, request.keys.size(), request.row)) return;
+    if (request.row != ReadRequest::no_row && !take(Form::equal_later_row, request.keys.size(), request.row))
+        return false;
     for (std::size_t keys = request.keys.size(); keys > 0; --keys) {
         const bool is_null = (mask >> (keys - 1) & 1) != 0;
-        if (!take(is_null ? Form::behind_null : Form::greater, keys, ReadRequest::no_row)) return;
+        if (!take(is_null ? Form::behind_null : Form::greater, keys, ReadRequest::no_row)) return false;
     }
+    return true;
 }
 
 bool SqliteEngine::take_rows(SqliteStatement& statement, const ReadRequest& request, Batch& result) {
@@ -170,13 +174,13 @@ bool SqliteEngine::take_rows(SqliteStatement& statement, const ReadRequest& requ
     const int leading_slot =
         request.leading ? request.columns->slot_of(request.table.index_at(request.index).fields.front()) : -1;
     while (statement.step()) {
-        result.rows.push_back(statement.whole(0));
-        for (int column = 1; column <= width; ++column) statement.append(column, texts_, result.values);
-        const std::size_t last = result.size() - 1;
+        result.begin_row(statement.whole(0));
+        for (int column = 1; column <= width; ++column) statement.append(column, result);
         if (result.size() >= static_cast<std::size_t>(request.limit)) return false;
-        if (request.leading && compare_keys(result.at(last, leading_slot), *request.leading) != 0) return false;
+        if (!request.leading) continue;
+        const Value key = result.value(result.size() - 1, leading_slot, key_texts_);
+        if (compare_keys(key, *request.leading) != 0) return false;
     }
-    result.complete = true;
     return true;
 }
 

@@ -25,6 +25,9 @@ public:
     void create_table(const TableDef& table) override;
     void read(const ReadRequest& request, Batch& result) override;
     std::int64_t count(const TableInfo& table) override;
+    std::int64_t version() override;
+    void copy_to(const QString& name, const QString& native_path) override;
+    QStringList damages() override;
     void begin(std::string_view table) override;
     void commit(std::string_view table) override;
     void rollback() noexcept override;
@@ -38,9 +41,10 @@ private:
     SqliteEngine(QString name, const QString& native_path, New);
     void connect(const QString& native_path);
     void check_header();
-    void read_rows(const ReadRequest& request, Batch& result);
-    void read_behind_null(const ReadRequest& request, Batch& result);
-    // Whether the statement had no row left.
+    void copy_into(SqliteEngine& target);
+    // These say whether no row is left behind those that they took.
+    bool read_at_once(const ReadRequest& request, Batch& result);
+    bool read_by_ranges(const ReadRequest& request, Batch& result);
     bool take_rows(SqliteStatement& statement, const ReadRequest& request, Batch& result);
     SqliteStatement& select(const ReadRequest& request, const ReadShape& shape);
     SqliteStatement& statement(const std::string& sql);
@@ -67,7 +71,7 @@ private:
     std::unordered_map<std::uint64_t, SqliteStatement> reads_;
     std::unordered_map<std::string, SqliteStatement> statements_;
     std::unordered_map<std::string, TableInfo*> tables_;
-    ShortTexts texts_;
+    ShortTexts key_texts_;  // of rows that are compared while they are read
     std::chrono::steady_clock::time_point waiting_since_;
 };
 

@@ -53,21 +53,19 @@ void SqliteStatement::run() {
     }
 }
 
-void SqliteStatement::append(int column, ShortTexts& texts, std::vector<Value>& values) const {
-    sqlite3_stmt* row = statement_.get();
-    switch (sqlite3_column_type(row, column)) {
+// The value is asked for once and then looked at, which only a connection of one thread may do.
+void SqliteStatement::append(int column, Batch& batch) const {
+    sqlite3_value* const value = sqlite3_column_value(statement_.get(), column);
+    switch (sqlite3_value_type(value)) {
         case SQLITE_INTEGER:
-            values.emplace_back(sqlite3_column_int64(row, column));
-            return;
+            return batch.add(std::int64_t{sqlite3_value_int64(value)});
         case SQLITE_FLOAT:
-            values.emplace_back(sqlite3_column_double(row, column));
-            return;
+            return batch.add(sqlite3_value_double(value));
         case SQLITE_NULL:
-            values.emplace_back();
-            return;
+            return batch.add_null();
         default: {
-            const auto* utf8 = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
-            values.emplace_back(texts.of({utf8, static_cast<std::size_t>(sqlite3_column_bytes(row, column))}));
+            const auto* utf8 = reinterpret_cast<const char*>(sqlite3_value_text(value));
+            batch.add(std::string_view(utf8, static_cast<std::size_t>(sqlite3_value_bytes(value))));
         }
     }
 }

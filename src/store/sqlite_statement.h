@@ -1,14 +1,13 @@
 // A connection and a prepared statement of SQLite, owned.
 #pragma once
 
-#include "store/short_texts.h"
-#include "store/value.h"
+#include "store/batch.h"
 
 #include <sqlite3.h>
 
 #include <memory>
+#include <string>
 #include <string_view>
-#include <vector>
 
 namespace store {
 
@@ -36,8 +35,8 @@ public:
     // Steps to the end; for statements whose rows nobody reads.
     void run();
 
-    // Adds the column's value behind the others.
-    void append(int column, ShortTexts& texts, std::vector<Value>& values) const;
+    // Adds the column's value to the row.
+    void append(int column, Batch& batch) const;
     std::int64_t whole(int column) const { return sqlite3_column_int64(statement_.get(), column); }
     std::string text(int column) const;
 

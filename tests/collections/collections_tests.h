@@ -8,6 +8,7 @@ class StatementTest : public QObject {
 
 private slots:
     void open_instalments_stand_in_order_of_their_dates();
+    void every_instalment_shows_its_payments();
 };
 
 class CollectionScreenTest : public QObject {

@@ -67,9 +67,8 @@ void PostingTest::documents() {
     TillFiles files;
     two_instalments(files);
     files.add("Belgeno", {{"SERI", "M"}, {"SNO", 40}});
-    prompt::Script script;
-    script.expect("fatura bu sürümde henüz basılamıyor");
-    Till till;
+    QStringList other_papers;
+    Till till({[&] { other_papers << "fatura"; }, [&] { other_papers << "plan"; }});
     const auto collect = [&](QRadioButton* option, const QString& number = {}) {
         till.pick();
         till.type_amount("100");
@@ -83,11 +82,12 @@ void PostingTest::documents() {
     collect(till.kurvo.MOP, "3");
     collect(till.kurvo.MOP);
     collect(till.kurvo.FOP);
+    collect(till.kurvo.DOP);
     QCOMPARE(belgeno(files), QStringList({"F|1", "M|4"}));
     QCOMPARE(files.rows("Tahsilat", {"BTIP", "BNO", "FTAR", "FNO"}),
-             QStringList({"M|41| | ", "M|3| | ", "M|4| | ", "F|1|20261005|1"}));
+             QStringList({"M|41| | ", "M|3| | ", "M|4| | ", "F|1|20261005|1", " | | | "}));
     QCOMPARE(files.papers.size(), std::size_t(3));
-    QCOMPARE(script.failures(), QStringList());
+    QCOMPARE(other_papers, QStringList({"fatura", "plan"}));
 }
 
 void PostingTest::today_is_forced() {

@@ -43,7 +43,7 @@ Till::Till(CollectionPapers papers)
     kurvo.ComboKASATIP->addItems({QStringLiteral("TL"), QStringLiteral("EURO")});
     kurvo.SDONEM->addItem(session.termCode);
     set_up_list(kurvo);
-    set_up_panels(kurvo);
+    set_up_panels(kurvo, session);
     terms.open();
     kurvo.show();
     if (!QTest::qWaitForWindowActive(&kurvo)) qFatal("the form does not come up");

@@ -28,7 +28,7 @@ public:
 
 class Till {
 public:
-    explicit Till(CollectionPapers papers = {});
+    explicit Till(CollectionPapers papers = {[] {}, [] {}});
 
     Kurvo kurvo;
     SessionContext session;

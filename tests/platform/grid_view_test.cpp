@@ -68,7 +68,7 @@ private slots:
     void clicks_of_the_mouse() {
         Lessons grid;
         QSignalSpy clicked(&grid, &GridView::cell_clicked), pressed(&grid, &GridView::cell_pressed),
-            twice(&grid, &GridView::cell_double_clicked);
+            twice(&grid, &GridView::cell_double_clicked), fixed(&grid, &GridView::fixed_clicked);
         QWidget* body = grid.viewport();
         QTest::mouseClick(body, Qt::LeftButton, {}, grid.middle(3, 2));
         QCOMPARE(clicked, cells({{3, 2}}));
@@ -88,7 +88,8 @@ private slots:
         QTest::mouseClick(body, Qt::LeftButton, {}, QPoint(body->width() - 2, 5));
         QCOMPARE(clicked, cells({{3, 2}}));
         QCOMPARE(pressed, cells({{3, 2}, {4, 2}}));
-        QCOMPARE(grid.row(), 4);
+        QCOMPARE(fixed, cells({{2, 1}}));
+        QCOMPARE(grid.row(), 2);
         QCOMPARE(grid.column(), 2);
 
         clicked.clear();

@@ -1,5 +1,6 @@
 #include "platform/rich_text.h"
 
+#include "platform/rtf_reader.h"
 #include "support/run_all.h"
 
 #include <QTextBlock>
@@ -9,6 +10,10 @@
 
 #include <algorithm>
 #include <random>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 
@@ -33,6 +38,25 @@ const QString office = QStringLiteral(
     "{\\*\\listtable{\\list x}}{\\pntext\\f3 1.\\tab}\\pard\\plain {\\u304\\'49\\u287\\'67\\u55357\\'3f\\u56832\\'3f}"
     "\\u8211\\endash {\\v gizli}\\u-4051?{\\uc2\\u351 st}{\\uc0\\u305}\\par \\par son}");
 
+// As a bad disk, a cut transfer or another program may leave a document.
+QString mutated(QString value, std::mt19937& random) {
+    const auto below = [&](qsizetype limit) { return static_cast<qsizetype>(random() % static_cast<unsigned>(limit)); };
+    const QString alphabet = QStringLiteral("{}\\'*; \n0129-abfuşЖ\u2029\uFDD0");
+    const QStringList words{"\\u", "\\fs", "\\f", "\\cf", "\\uc", "\\red", "\\bin", "\\ansicpg", "\\fcharset", "\\b"};
+    const QStringList numbers{"-1", "0", "65536", "1114112", "2147483648", "-99999999999999999999", "40", "7"};
+    for (auto change = below(9); change > 0; --change) {
+        const qsizetype at = 6 + below(value.size() - 5);
+        const auto way = below(8);
+        if (way == 0) value.truncate(at);
+        if (way == 1) value += value.left(4000);
+        if (way == 2) value.remove(at, below(30));
+        if (way == 3) value.insert(at, value.mid(below(200), 20));
+        if (way == 4 || way == 5) value.insert(at, words[below(words.size())] + numbers[below(numbers.size())]);
+        if (way > 5) value.insert(at, alphabet[below(alphabet.size())]);
+    }
+    return value;
+}
+
 bool all_ascii(const QString& value) {
     return std::ranges::all_of(value, [](QChar letter) { return letter.unicode() < 0x80; });
 }
@@ -41,6 +65,10 @@ QString look_of(const QTextCharFormat& format) {
     QString look = format.fontFamilies().toStringList().value(0);
     if (format.fontPointSize() > 0) look += ' ' + QString::number(format.fontPointSize());
     if (format.foreground().style() != Qt::NoBrush) look += ' ' + format.foreground().color().name();
+    if (const QBrush back = format.background(); back.style() != Qt::NoBrush && back.color().alpha() > 0)
+        look += " on " + back.color().name();
+    if (format.verticalAlignment() == QTextCharFormat::AlignSuperScript) look += " high";
+    if (format.verticalAlignment() == QTextCharFormat::AlignSubScript) look += " low";
     if (format.fontWeight() > QFont::Normal) look += " bold";
     if (format.fontItalic()) look += " italic";
     if (format.fontUnderline()) look += " underline";
@@ -109,18 +137,22 @@ private slots:
         QVERIFY(!document.isModified() && !document.isUndoAvailable());
 
         rich_text::load(
-            "{\\rtf1{\\fonttbl\\f0 Arial;\\f1 Tahoma;}\\f0 a{\\f1\\ul\\strike b}\\ul0 c\\plain d{\\b\\b0 e}}",
+            "{\\rtf1{\\fonttbl\\f0 Arial;\\f1 Tahoma;}\\f0 a{\\f1\\ul\\strike b}\\ul0 c\\plain d{\\b\\b0 e}"
+            "{\\colortbl;\\red255;}\\highlight1 f\\cb0\\super g\\nosupersub h}",
             document);
-        QCOMPARE(described(document), QStringList({"left:", "a|Arial", "b|Tahoma underline strike", "c|Arial", "de|"}));
+        QCOMPARE(described(document), QStringList({"left:", "a|Arial", "b|Tahoma underline strike", "c|Arial", "de|",
+                                                   "f|on #ff0000", "g|high", "h|"}));
     }
 
     void formatting_comes_back() {
         QTextDocument document;
         document.setHtml(
-            "<p>düz <b><i>12 kalın eğik</i></b><u><s>-5 {çizgili}\\</s></u></p><p align='right'>Ж😀</p>"
+            "<p>düz <b><i>12 kalın eğik</i></b><u><s>-5 {çizgili}\\</s></u></p><p "
+            "align='right'>Ж😀<sup>2</sup><sub>3</sub></p>"
             "<p align='center'>orta</p><p align='justify'><span "
-            "style='color:#0180ff;font-family:Arial;font-size:9.5pt'>"
-            "renkli</span><span style='color:#000000'>siyah</span></p>");
+            "style='color:#0180ff;background:#ffff00;font-family:Arial;font-size:9.5pt'>"
+            "renkli</span><span style='color:#000000;background:transparent'>siyah</span></p>");
+        QCOMPARE(described(document).mid(6, 2), QStringList({"2|high", "3|low"}));
         QCOMPARE(described(document).last(), "siyah|#000000");
         QTextCharFormat odd;
         odd.setFontFamilies({"Yazı; {1}"});
@@ -136,23 +168,57 @@ private slots:
     }
 
     void broken_input_ends() {
-        const QString alphabet = QStringLiteral("{}\\'*; \n0129-abfuşЖ\u2029\uFDD0");
         std::mt19937 random(20261001);
-        for (int round = 0; round < 3000; ++round) {
-            QString value = round % 3 == 0 ? old_box : round % 3 == 1 ? word : office;
-            for (auto change = random() % 8; change > 0; --change) {
-                const qsizetype at = 6 + static_cast<qsizetype>(random() % static_cast<unsigned>(value.size() - 6));
-                const auto way = random() % 3;
-                if (way == 0) value.remove(at, static_cast<qsizetype>(random() % 30));
-                if (way == 1) value.insert(at, alphabet[random() % static_cast<unsigned>(alphabet.size())]);
-                if (way == 2) value.insert(at, value.mid(static_cast<qsizetype>(random() % 200), 20));
-            }
+        const int rounds = qEnvironmentVariableIsSet("KURVO_LONG_TESTS") ? 100'000 : 4000;
+        for (int round = 0; round < rounds; ++round) {
+            const QString value = mutated(round % 3 == 0 ? old_box : round % 3 == 1 ? word : office, random);
             const QString text = rich_text::plain(value);
             QVERIFY(text.size() <= value.size());
             QTextDocument document;
             rich_text::load(value, document);
             QVERIFY2(rich_text::plain(rich_text::save(document)) == text, qPrintable(value));
         }
+    }
+
+    void deep_groups_end() {
+        for (const QString deep : {"{", "{\\b", "{\\*", "{\\pict", "{\\fonttbl", "{\\uc9\\u1"}) {
+            const QString groups = deep.repeated(100'000);
+            QCOMPARE(rich_text::plain("{\\rtf1 a" + groups + QString("}").repeated(100'000) + "b}"), "ab");
+            QVERIFY(rich_text::plain("{\\rtf1 a" + groups).startsWith('a'));
+        }
+    }
+
+    // No input makes the memory of a workstation short: while it is read, and as the document that it becomes.
+    void memory_is_bounded() {
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
+        const auto in_use = [] {
+            const struct mallinfo2 heap = mallinfo2();
+            return static_cast<qint64>(heap.uordblks + heap.hblkhd);
+        };
+        struct Watch : rtf::Sink {
+            std::function<qint64()> in_use;
+            qint64 most = 0;
+            void run(const QString&, const rtf::Style&, const rtf::Reader&) override {}
+            void paragraph_end(rtf::Alignment) override {}
+            void document_end(rtf::Alignment) override { most = in_use(); }
+        };
+        for (const QString unit : {"{", "{\\b", "\\\n", "a\\\n", "\\b a\\b0 b", "\\qc a\\par ", "{\\colortbl;;;;;;;;",
+                                   "{\\fonttbl{\\f1 a", "\\f%1\\fs%1 a", "\\fs%1\\cf%1\\b a\\\n"}) {
+            QString value = "{\\rtf1{\\colortbl" + QString(";\\red1").repeated(200) + "}";
+            for (int i = 0; i < 50'000; ++i) value += unit.contains("%1") ? unit.arg(i % 3000) : unit;
+            Watch watch;
+            watch.in_use = in_use;
+            qint64 before = in_use();
+            rtf::Reader(value, watch).read();
+            QVERIFY2(watch.most - before <= 200 * value.size(), qPrintable(unit));
+            before = in_use();
+            QTextDocument document;
+            rich_text::load(value, document);
+            QVERIFY2(in_use() - before <= 200 * value.size(), qPrintable(unit));
+        }
+#else
+        QSKIP("the heap does not tell what is in use");
+#endif
     }
 };
 

@@ -3,15 +3,20 @@
 Desk::Desk(const std::vector<Row>& students)
     : clock_([] { return QDateTime(QDate(2026, 11, 24), QTime(9, 30)); }),
       terms(kurvo, session),
-      card(
-          kurvo, session,
-          {[this] { followed << "devam_toplu"; }, [this] { followed << "etud_toplu"; }, [this] { followed << "odeme"; },
-           [this] { followed << "devam"; }, [this] { followed << "etud"; }, [this] { return to_mark; }}),
+      card(kurvo, session,
+           {{},
+            {},
+            [this] { followed << "devam_toplu"; },
+            [this] { followed << "etud_toplu"; },
+            [this] { followed << "odeme"; },
+            [this] { followed << "devam"; },
+            [this] { followed << "etud"; },
+            [this] { return to_mark; }}),
       list(kurvo, session, card),
       search(kurvo, session, list),
       window(session, terms, {kurvo, list, card},
-             {[this](std::int64_t number) { published.push_back(number); },
-              [this](std::int64_t number) { removed.push_back(number); }}) {
+             {[this](const KurvoYeni& record) { published.push_back(record.ONO->text().toLongLong()); },
+              [this](const KurvoYeni& record) { removed.push_back(record.ONO->text().toLongLong()); }}) {
     school.add_term("2025");
     school.school_class("12AB", "Eşit ağırlık").school_class("12A", "Sayısal grubu").stop(1, 0, "Merkez");
     for (const Row& student : students) {

@@ -54,18 +54,38 @@ struct Desk {
         session.listSortColumn = 2;
         kurvo.LONO->setText("1250");
         kurvo.Image1->setPixmap(QPixmap(4, 4));
-        QCOMPARE(shown().size(), 23 + 7);
+        QCOMPARE(shown().size(), 23 + 7 + 7);
         for (QWidget* control : shown()) control->setProperty("text", "x");
         kurvo.FSBUL_msg->show();
         for (GridView* grid : {kurvo.TABLO_SBUL, kurvo.FTahsil_Tablo2}) {
             grid->set_columns(4);
             grid->set_rows(2);
         }
+        for (QPushButton* button : {kurvo.CommandDEVAMSIZLIK, kurvo.CommandETUD, kurvo.CommandTOPLU}) button->show();
+        for (GridView* grid : panel_grids()) {
+            grid->set_columns(6);
+            grid->set_rows(3);
+        }
+        for (GridView* grid : lesson_grids()) {
+            grid->set_columns(5);
+            grid->set_rows(2);
+            grid->set_row(1, {"01", "MATEMATİK", "3", "4"});
+        }
+        for (QTextEdit* note : {static_cast<QTextEdit*>(kurvo.Text1), kurvo.FToplu_Text1}) note->setPlainText("not");
+        kurvo.FToplu_TOP3e->setText("4");
+    }
+    // Grids of the panels that follow the card; their heading row stays.
+    std::vector<GridView*> panel_grids() const {
+        return {kurvo.FDevam_Tablo2,  kurvo.FEtud_Tablo1,   kurvo.FToplu_DEVAMS,
+                kurvo.FToplu_DEVAMSe, kurvo.FToplu_ETUDLER, kurvo.FToplu_Tablo2};
+    }
+    std::vector<GridView*> lesson_grids() const {
+        return {kurvo.FToplu_DERSLER, kurvo.FToplu_DERSLERe, kurvo.FToplu_DERSLER_ETUD};
     }
     // The card's labels and the boxes that the former student filled; tax office and number are typed by hand.
     QList<QWidget*> shown() const {
-        QList<QWidget*> controls = kurvo.findChildren<QWidget*>(
-            QRegularExpression("^(L[A-Z]+|TTUTAR|TODENEN|TBORC|fA[A-Z]+[12]?|fI.*|(KASA)?ODENEN)$"));
+        QList<QWidget*> controls = kurvo.findChildren<QWidget*>(QRegularExpression(
+            "^(L[A-Z]+|TTUTAR|TODENEN|TBORC|fA[A-Z]+[12]?|fI.*|(KASA)?ODENEN|MAZERET|FToplu_(KTUTAR|TFARK|OO_.))$"));
         controls.removeOne(kurvo.LONO);
         return controls;
     }
@@ -79,6 +99,14 @@ struct Desk {
         if (!kurvo.Image1->pixmap(Qt::ReturnByValue).isNull()) names += "Image1";
         for (const GridView* grid : {kurvo.TABLO_SBUL, kurvo.FTahsil_Tablo2})
             if (grid->rows() > 0) names += grid->objectName();
+        for (const GridView* grid : panel_grids())
+            if (grid->rows() > 1) names += grid->objectName();
+        for (const GridView* grid : lesson_grids())
+            if (grid->rows() != 2 || grid->text(1, 1) != "MATEMATİK" || !grid->text(1, 2).isEmpty())
+                names += grid->objectName();
+        for (const QTextEdit* note : {static_cast<QTextEdit*>(kurvo.Text1), kurvo.FToplu_Text1})
+            if (!note->toPlainText().isEmpty()) names += note->objectName();
+        if (kurvo.FToplu_TOP2->text() + kurvo.FToplu_TOP3e->text() != "00") names += "FToplu_TOP";
         return names.join(' ');
     }
 

@@ -72,9 +72,10 @@ private slots:
         store::WriteScope scope(desk.database);
         for (int i = 0; i < 50; ++i) expect(null, null);
         expect(null, "20260101");
-        for (int i = 0; i < 50; ++i) expect(5, null);
+        for (int i = 0; i < 200; ++i) expect(5, null);
         expect(5, "");
         expect(6, null);
+        for (int i = 0; i < 700; ++i) expect(7, 1000 + i);
         QCOMPARE(walk(desk.rows, "TUTAR"), expected);
 
         // Every step anew, as when this process writes in between.

@@ -22,6 +22,7 @@ public:
     Clerk& operator=(const Clerk&) = delete;
 
     Office& office() { return office_; }
+    QDir folder() const { return folder_; }
     Program& program() { return program_; }
     Kurvo& kurvo() { return program_.form(); }
 

@@ -2,6 +2,7 @@
 
 #include "launch.h"
 #include "platform/money.h"
+#include "platform/paths.h"
 #include "platform/text_file.h"
 #include "sample.h"
 #include "school.h"
@@ -57,6 +58,13 @@ void draw_invoice_form() {
     text_file::write_lines(school::default_root + u"data\\Fatura.txt"_s, lines);
 }
 
+// Any student's photograph will do.
+void put_a_picture_before_the_camera() {
+    const QString folder = school::photo_folder(school::default_root);
+    const QStringList photos = paths::files_in(folder, u".bmp"_s);
+    if (!photos.isEmpty()) qputenv("KURVO_CAMERA", paths::native(folder + photos.front()).toUtf8());
+}
+
 void hand_over() {
     launch::HandOver values;
     values.version = school::version_of(school::default_root);
@@ -77,6 +85,7 @@ Office::Office(const QString& papers) : clock_(present_moment) {
     qputenv("KURVO_PRINTER", "pdf:" + papers.toUtf8());
     make_school();
     draw_invoice_form();
+    put_a_picture_before_the_camera();
     hand_over();
 }
 

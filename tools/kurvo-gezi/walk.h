@@ -30,3 +30,6 @@ bool go(const Walk& walk, Clerk& clerk);
 Walk collection_walk(Clerk& clerk);
 Walk record_form_walk(Clerk& clerk);
 Walk invoice_walk(Clerk& clerk);
+Walk day_walk(Clerk& clerk);
+Walk student_file_walk(Clerk& clerk);
+Walk newcomers_walk(Clerk& clerk);

@@ -1,0 +1,162 @@
+#include "attendance/attendance_summaries.h"
+
+#include "platform/clock.h"
+#include "platform/numbers.h"
+#include "platform/prompt.h"
+#include "platform/slots.h"
+#include "session/terms.h"
+
+#include <algorithm>
+
+namespace {
+
+namespace day_grid {
+
+constexpr int date = 0, lesson = 4, excuse = 5;
+
+}  // namespace day_grid
+
+using Totals = std::array<QLabel*, counter_fields.size()>;
+
+void reset(const Totals& totals) {
+    for (QLabel* total : totals) total->setText(QStringLiteral("0"));
+}
+
+// The captions are the totals: what they show is read back and grows.
+class Adding {
+public:
+    explicit Adding(const Totals& totals) : totals_(totals) {
+        std::ranges::transform(totals_, sums_.begin(), [](const QLabel* total) { return numbers::val(total->text()); });
+    }
+    ~Adding() {
+        for (std::size_t i = 0; i < sums_.size(); ++i) totals_[i]->setText(numbers::plain(sums_[i]));
+    }
+    Adding(const Adding&) = delete;
+    Adding& operator=(const Adding&) = delete;
+
+    void add(const Hours& hours) { std::ranges::transform(sums_, hours, sums_.begin(), std::plus()); }
+
+private:
+    const Totals& totals_;
+    Hours sums_;
+};
+
+void add_to_lesson(GridView& lessons, int row, const Hours& hours) {
+    int column = lesson_grid::first_counter;
+    for (const double missed : hours) {
+        if (missed > 0) lessons.set_text(row, column, numbers::plain(numbers::val(lessons.text(row, column)) + missed));
+        ++column;
+    }
+}
+
+QStringList date_and_hours(const AttendanceSummaries::Absence& absence) {
+    QStringList cells{dates::shown(absence.date)};
+    for (const double missed : absence.hours) cells << numbers::plain(missed);
+    return cells;
+}
+
+}  // namespace
+
+AttendanceSummaries::AttendanceSummaries(Kurvo& kurvo, SessionContext& session, Terms& terms)
+    : kurvo_(kurvo), session_(session) {
+    connect_days(kurvo_.FToplu_DEVAMS);
+    connect_days(kurvo_.FToplu_DEVAMSe);
+    const auto narrow = [this](int row, int) { FToplu_DERSLER_Click(row); };
+    on(kurvo_.FToplu_DERSLER, &GridView::cell_clicked, this, narrow);
+    on(kurvo_.FToplu_DERSLER, &GridView::fixed_clicked, this, narrow);
+    on(&terms, &Terms::leaving, this, [this] { devam_kayitlari_.clear(); });
+}
+
+void AttendanceSummaries::connect_days(GridView* days) {
+    const auto show = [this, days](int row, int) { FToplu_DEVAMS_Click(*days, row); };
+    on(days, &GridView::cell_clicked, this, show);
+    on(days, &GridView::fixed_clicked, this, show);
+}
+
+AttendanceSummaries::Tab AttendanceSummaries::class_tab() const {
+    return {class_attendance,
+            *kurvo_.FToplu_DERSLER,
+            *kurvo_.FToplu_DEVAMS,
+            {kurvo_.FToplu_TOP1, kurvo_.FToplu_TOP2, kurvo_.FToplu_TOP3}};
+}
+
+AttendanceSummaries::Tab AttendanceSummaries::study_tab() const {
+    return {study_attendance,
+            *kurvo_.FToplu_DERSLERe,
+            *kurvo_.FToplu_DEVAMSe,
+            {kurvo_.FToplu_TOP1e, kurvo_.FToplu_TOP2e, kurvo_.FToplu_TOP3e}};
+}
+
+// One table in memory serves both: the study sessions come last and stay in it.
+void AttendanceSummaries::devam_toplu_doldur() {
+    fill(class_tab());
+    fill(study_tab());
+}
+
+void AttendanceSummaries::fill(const Tab& tab) {
+    const GridView::Filling filling_lessons(tab.lessons), filling_days(tab.days);
+    lesson_grid::empty_counters(tab.lessons);
+    reset(tab.totals);
+    read_absences(tab);
+    show_days(tab);
+}
+
+void AttendanceSummaries::read_absences(const Tab& tab) {
+    devam_kayitlari_.clear();
+    store::Recordset absences = tab.tables.open_absences(session_.termDb);
+    store::scan_prefix(absences, {numbers::val(kurvo_.LONO->text())}, [&] {
+        Absence absence{absences["DKOD"].text(), absences["TARIH"].text(), hours_of(absences), {}};
+        if (const int row = lesson_grid::row_of(tab.lessons, absence.code); row >= 0) {
+            absence.lesson = tab.lessons.text(row, lesson_grid::name);
+            add_to_lesson(tab.lessons, row, absence.hours);
+        }
+        devam_kayitlari_.push_back(std::move(absence));
+    });
+}
+
+void AttendanceSummaries::show_days(const Tab& tab) {
+    tab.days.set_rows(static_cast<int>(devam_kayitlari_.size()) + 1);
+    if (devam_kayitlari_.empty()) return;
+    store::Recordset excuses = tab.tables.open_excuses(session_.termDb);
+    const double ono = numbers::val(kurvo_.LONO->text());
+    Adding totals(tab.totals);
+    QString day, excuse;
+    int row = 1;
+    for (const Absence& absence : devam_kayitlari_) {
+        if (absence.date != day) {
+            day = absence.date;
+            excuses.Seek("=", {ono, day});
+            excuse = excuses.NoMatch() ? QString() : excuses["ACK"].text();
+        }
+        tab.days.set_row(row, date_and_hours(absence));
+        tab.days.set_text(row, day_grid::lesson, absence.lesson);
+        tab.days.set_text(row, day_grid::excuse, excuse);
+        totals.add(absence.hours);
+        ++row;
+    }
+}
+
+void AttendanceSummaries::FToplu_DEVAMS_Click(const GridView& days, int row) {
+    const QString excuse = days.text(row, day_grid::excuse);
+    if (excuse.isEmpty()) return;
+    prompt::tell(excuse, days.text(row, day_grid::date) + QStringLiteral(" Tarihindeki Mazereti"));
+}
+
+// Looks in the table in memory as it is, although that holds the study sessions by then.
+void AttendanceSummaries::FToplu_DERSLER_Click(int row) {
+    const Tab tab = class_tab();
+    const QString code = tab.lessons.text(row, lesson_grid::code);
+    const GridView::Filling filling(tab.days);
+    tab.days.clear();
+    tab.days.set_rows(1);
+    tab.days.set_row(
+        0, {QStringLiteral("  Tarih"), QStringLiteral("İzinli"), QStringLiteral("İzinsiz"), QStringLiteral("Raporlu")});
+    reset(tab.totals);
+    Adding totals(tab.totals);
+    for (const Absence& absence : devam_kayitlari_) {
+        if (absence.code != code) continue;
+        tab.days.set_rows(tab.days.rows() + 1);
+        tab.days.set_row(tab.days.rows() - 1, date_and_hours(absence));
+        totals.add(absence.hours);
+    }
+}
