@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace bench {
 
@@ -43,7 +44,31 @@ std::array<Pictured, 2> two_students() {
     return chosen;
 }
 
-// Reads what the card shows and puts it into the same labels and an ordinary table.
+// Rows of a student in an ordinary table.
+class BareRows {
+public:
+    BareRows(RawStatement statement, int columns) : rows_(std::move(statement)), cells_(0, columns) {
+        view_.setModel(&cells_);
+    }
+    void show(double student) {
+        cells_.setRowCount(0);
+        rows_.bind(1, student);
+        while (rows_.step()) {
+            const int row = cells_.rowCount();
+            cells_.insertRow(row);
+            for (int column = 0; column < cells_.columnCount(); ++column)
+                cells_.setItem(row, column, new QStandardItem(QString::fromStdString(rows_.text(column))));
+        }
+        rows_.reset();
+    }
+
+private:
+    RawStatement rows_;
+    QStandardItemModel cells_;
+    QTableView view_;
+};
+
+// Reads what the card and the panels behind it show and puts it into the same labels and ordinary tables.
 class BareCard {
 public:
     BareCard();
@@ -54,6 +79,7 @@ private:
     void show_labels();
     void show_instalments(double student);
     void show_picture(const QString& photo);
+    void show_names();
 
     BareForm form_;
     QTableView view_;
@@ -66,6 +92,18 @@ private:
     RawStatement class_ = term_.prepare("SELECT ACK FROM Sinif WHERE SINIF=?");
     RawStatement plan_ = term_.prepare(
         "SELECT VADE, TUTAR, ODENEN, ODSEK, ACK, CYER FROM Odeme INDEXED BY \"Odeme.OVX\" WHERE ONO=? ORDER BY VADE");
+    BareRows payments_{term_.prepare("SELECT VADE, KASAFNO, TARIH, ODENEN FROM Tahsilat WHERE ONO=?"), 4};
+    BareRows absences_{term_.prepare("SELECT TARIH, IZINLI, IZINSIZ, RAPORLU, DKOD, (SELECT ACK FROM Dmazeret m WHERE "
+                                     "m.ONO=d.ONO AND m.TARIH=d.TARIH) FROM Devam d WHERE ONO=? ORDER BY TARIH, DKOD"),
+                       6};
+    BareRows study_absences_{
+        term_.prepare("SELECT TARIH, IZINLI, IZINSIZ, RAPORLU, DKOD, (SELECT ACK FROM Emazeret m WHERE m.ONO=d.ONO AND "
+                      "m.TARIH=d.TARIH) FROM EtudDevam d WHERE ONO=? ORDER BY TARIH, DKOD"),
+        6};
+    // In two panels.
+    static constexpr const char* sessions =
+        "SELECT GIRDI, TARIH, SAAT, KOD, SICIL, KONU FROM Etud WHERE ONO=? ORDER BY TARIH, SAAT";
+    BareRows sessions_{term_.prepare(sessions), 6}, booked_{term_.prepare(sessions), 6};
 };
 
 BareCard::BareCard() {
@@ -82,6 +120,17 @@ void BareCard::show(const Pictured& student) {
     show_labels();
     row_.reset();
     show_instalments(student.number);
+    for (BareRows* each : {&payments_, &absences_, &study_absences_, &sessions_, &booked_}) each->show(student.number);
+    for (int panel = 0; panel < 2; ++panel) show_names();
+}
+
+// Lessons and teachers of the sessions stand in the other file, which is opened for each panel.
+void BareCard::show_names() {
+    RawFile reference(BigSchool::reference_file);
+    RawStatement lesson = reference.prepare("SELECT TANIM FROM Ders WHERE KOD='01'");
+    RawStatement teacher = reference.prepare("SELECT ADSOY FROM Ogretmen WHERE SICIL=101");
+    for (RawStatement* name : {&lesson, &teacher})
+        if (name->step()) keep(name->text(0));
 }
 
 void BareCard::show_labels() {

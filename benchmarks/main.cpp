@@ -8,9 +8,20 @@
 #include <cstdio>
 #include <cstdlib>
 
+namespace {
+
+QtMessageHandler other_messages = nullptr;
+
+// The window system without a screen says of every window that it does not care for size hints.
+void leave_out_size_hints(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (!message.contains(QStringLiteral("propagateSizeHints"))) other_messages(type, context, message);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
+    other_messages = qInstallMessageHandler(leave_out_size_hints);
     QApplication application(argc, argv);
     look::apply(application);
     // Nobody is there to press the button of the critical box.

@@ -114,23 +114,25 @@ void AttendanceSummaries::read_absences(const Tab& tab) {
     });
 }
 
+// By day, in one read: over the office's network a seek for each day would take a lock of its own.
+QHash<QString, QString> AttendanceSummaries::read_excuses(const Tab& tab) {
+    QHash<QString, QString> by_day;
+    store::Recordset excuses = tab.tables.open_excuses(session_.termDb);
+    store::scan_prefix(excuses, {numbers::val(kurvo_.LONO->text())},
+                       [&] { by_day.insert(excuses["TARIH"].text(), excuses["ACK"].text()); });
+    return by_day;
+}
+
 void AttendanceSummaries::show_days(const Tab& tab) {
     tab.days.set_rows(static_cast<int>(devam_kayitlari_.size()) + 1);
     if (devam_kayitlari_.empty()) return;
-    store::Recordset excuses = tab.tables.open_excuses(session_.termDb);
-    const double ono = numbers::val(kurvo_.LONO->text());
+    const QHash<QString, QString> excuses = read_excuses(tab);
     Adding totals(tab.totals);
-    QString day, excuse;
     int row = 1;
     for (const Absence& absence : devam_kayitlari_) {
-        if (absence.date != day) {
-            day = absence.date;
-            excuses.Seek("=", {ono, day});
-            excuse = excuses.NoMatch() ? QString() : excuses["ACK"].text();
-        }
         tab.days.set_row(row, date_and_hours(absence));
         tab.days.set_text(row, day_grid::lesson, absence.lesson);
-        tab.days.set_text(row, day_grid::excuse, excuse);
+        tab.days.set_text(row, day_grid::excuse, excuses.value(absence.date));
         totals.add(absence.hours);
         ++row;
     }

@@ -5,6 +5,7 @@
 #include "forms/kurvo.h"
 #include "session/context.h"
 
+#include <QHash>
 #include <QObject>
 
 #include <vector>
@@ -26,8 +27,6 @@ public:
         Hours hours;
         QString lesson;  // its name; empty where the school has given it up
     };
-    // The absences of the tab that was filled last, by date and lesson.
-    const std::vector<Absence>& devam_kayitlari() const { return devam_kayitlari_; }
 
 private:
     struct Tab {
@@ -42,11 +41,12 @@ private:
 
     void fill(const Tab& tab);
     void read_absences(const Tab& tab);
+    QHash<QString, QString> read_excuses(const Tab& tab);
     void show_days(const Tab& tab);
     void FToplu_DEVAMS_Click(const GridView& days, int row);
     void FToplu_DERSLER_Click(int row);
 
     Kurvo& kurvo_;
     SessionContext& session_;
-    std::vector<Absence> devam_kayitlari_;
+    std::vector<Absence> devam_kayitlari_;  // of the tab that was filled last, by date and lesson
 };

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFont>
+#include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -73,6 +74,12 @@ QString style_sheet(const Scheme& scheme) {
     return sheet;
 }
 
+QIcon icon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48, 256}) icon.addFile(QStringLiteral(":/forms/kurvo-%1.png").arg(size));
+    return icon;
+}
+
 }  // namespace
 
 void apply(QApplication& application) {
@@ -85,6 +92,9 @@ void apply(QApplication& application) {
     font.setPointSizeF(font_size);
     application.setFont(font);
     application.setStyleSheet(style_sheet(scheme));
+    // Under Wayland a desktop takes the icon from the menu's entry of this name.
+    QApplication::setDesktopFileName(QStringLiteral("org.kurvo.Kurvo"));
+    QApplication::setWindowIcon(icon());
 }
 
 }  // namespace look

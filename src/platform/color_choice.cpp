@@ -15,7 +15,11 @@ std::function<QColor(const QColor&)> choice_of_test;
 
 QColor pick(const QColor& start) {
     if (choice_of_test) return choice_of_test(start);
-    return QColorDialog::getColor(start, QApplication::activeWindow(), QStringLiteral("Renk seç"));
+    QColorDialog CDC(start, QApplication::activeWindow());
+    CDC.setObjectName(QStringLiteral("CDC"));
+    CDC.setWindowTitle(QStringLiteral("Renk seç"));
+    CDC.exec();
+    return CDC.selectedColor();
 }
 
 Override::Override(std::function<QColor(const QColor&)> choice)

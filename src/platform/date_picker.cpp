@@ -25,16 +25,20 @@ bool is_full(std::size_t part, const QString& digits) {
 }  // namespace
 
 DatePicker::DatePicker(QWidget* parent) : QDateEdit(parent) {
-    const QLocale turkish(QLocale::Turkish, QLocale::Turkey);
-    setLocale(turkish);
+    setLocale(QLocale(QLocale::Turkish, QLocale::Turkey));
     setDisplayFormat(form);
     setKeyboardTracking(false);
     setCalendarPopup(true);
-    calendarWidget()->setLocale(turkish);
-    calendarWidget()->setFirstDayOfWeek(Qt::Monday);
-    calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     lineEdit()->installEventFilter(this);
     connect(this, &QDateEdit::dateChanged, this, [this] { typing_.reset(); });
+}
+
+// Only when it may drop down: a calendar takes as long to build as ten fields, and most are never looked at.
+void DatePicker::set_up_calendar() {
+    if (std::exchange(has_calendar_, true)) return;
+    calendarWidget()->setLocale(locale());
+    calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+    calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
 }
 
 void DatePicker::set_parts(int year, int month, int day) {
@@ -156,6 +160,7 @@ bool DatePicker::focusNextPrevChild(bool next) {
 
 void DatePicker::mousePressEvent(QMouseEvent* event) {
     take_typed();
+    set_up_calendar();
     QDateEdit::mousePressEvent(event);
 }
 

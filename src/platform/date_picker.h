@@ -38,6 +38,7 @@ private:
         bool overwrites = true;        // the next digit begins the part anew
         bool came_by_itself = false;   // the part before was full, so a point typed now changes nothing
     };
+    void set_up_calendar();
     bool type(const QKeyEvent& key);  // false for a key that types nothing
     void type_digit(QChar digit);
     void type_point();
@@ -46,4 +47,5 @@ private:
     void show_text(const QString& text);
 
     std::optional<Typing> typing_;
+    bool has_calendar_ = false;
 };

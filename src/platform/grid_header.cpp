@@ -2,9 +2,12 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
-constexpr int text_margin = 3;  // pixels, as in the cells below
+constexpr int text_margin = 3;         // pixels, as in the cells below
+constexpr int narrowest_letters = 60;  // percent
 
 }  // namespace
 
@@ -16,7 +19,16 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
     painter->setPen(palette().color(QPalette::Mid));
     painter->drawLine(rect.topRight(), rect.bottomRight());
     painter->setPen(told(Qt::ForegroundRole).value<QColor>());
-    const QRect place = rect.adjusted(text_margin, 0, -text_margin, 0);
-    const QString text = fontMetrics().elidedText(told(Qt::DisplayRole).toString(), textElideMode(), place.width());
+    const QString words = told(Qt::DisplayRole).toString();
+    QRect place = rect.adjusted(text_margin, 0, -text_margin, 0);
+    QFont letters = font();
+    // Some columns are narrower than their heading: it may come closer to the edges, and its letters together.
+    const int wanted = fontMetrics().horizontalAdvance(words);
+    if (wanted > place.width()) {
+        place = rect.adjusted(1, 0, -1, 0);
+        letters.setStretch(std::clamp(100 * place.width() / wanted - 4, narrowest_letters, 100));
+    }
+    painter->setFont(letters);
+    const QString text = QFontMetrics(letters).elidedText(words, textElideMode(), place.width());
     painter->drawText(place, told(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine, text);
 }

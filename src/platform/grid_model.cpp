@@ -97,6 +97,7 @@ void GridModel::set_cell_color(const QColor& back) {
 void GridModel::store_rows(int rows) {
     if (rows < rows_) std::erase_if(formats_, [&](const auto& cell) { return cell.first >= key(rows, 0); });
     rows_ = rows;
+    ++revision_;
     cells_.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns_));
 }
 
@@ -143,6 +144,7 @@ void GridModel::set_columns(int columns) {
     std::erase_if(formats_, [&](const auto& cell) { return static_cast<int>(cell.first & 0xFFFFFFFFU) >= columns; });
     alignments_.resize(static_cast<std::size_t>(columns), Qt::AlignLeft);
     columns_ = columns;
+    ++revision_;
     if (more)
         endInsertColumns();
     else
@@ -216,6 +218,7 @@ bool GridModel::release() {
 }
 
 void GridModel::changed(int row, int column) {
+    ++revision_;
     if (held_ > 0)
         changed_ = true;
     else if (row < fixed_rows_)
@@ -225,6 +228,7 @@ void GridModel::changed(int row, int column) {
 }
 
 void GridModel::all_changed() {
+    ++revision_;
     changed_ = held_ > 0;
     if (changed_ || columns_ == 0) return;
     if (fixed_rows_ > 0) emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);

@@ -47,6 +47,9 @@ public:
 
     void sort_by(int column);
 
+    // Grows with every change of rows, texts, order and formats.
+    std::uint64_t revision() const { return revision_; }
+
     // While held, new rows and changed cells are kept from the view; a lost row is told at once.
     void hold() { ++held_; }
     // True when this was the last hold.
@@ -69,5 +72,6 @@ private:
     int rows_ = 0, columns_ = 0, shown_rows_ = 0;
     int fixed_rows_ = 0, fixed_columns_ = 0;
     int held_ = 0;
+    std::uint64_t revision_ = 0;
     bool changed_ = false;
 };

@@ -206,8 +206,17 @@ void GridView::set_current(int row, int column) {
     scrollTo(index);
 }
 
+void GridView::forget_current() {
+    selectionModel()->clear();
+    scrollToTop();
+}
+
 void GridView::sort_by(int column) {
     model_->sort_by(column);
+}
+
+std::uint64_t GridView::revision() const {
+    return model_->revision();
 }
 
 QRect GridView::cell_rect(int row, int column) const {

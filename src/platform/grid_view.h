@@ -4,6 +4,7 @@
 #include <QPersistentModelIndex>
 #include <QTableView>
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -59,9 +60,13 @@ public:
     int row() const;
     int column() const;
     void set_current(int row, int column);  // a body cell; it is scrolled into view
+    void forget_current();                  // none is current, and the first rows are in view, as in a grid just filled
 
     // Sorts whole body rows ascending, equal ones in their order: numbers by value before texts in Turkish order.
     void sort_by(int column);
+
+    // The same number as before: rows, texts, their order and colours are what they were.
+    std::uint64_t revision() const;
 
     // Where the cell lies, in the coordinates of the grid's parent, for an editor laid over it.
     QRect cell_rect(int row, int column) const;

@@ -6,6 +6,7 @@
 #include <QPixmap>
 
 #include <algorithm>
+#include <cmath>
 
 namespace print_form {
 
@@ -16,6 +17,12 @@ constexpr double smallest_points = 6;
 QRectF place_of(const QWidget& control, const QWidget& form) {
     const QPoint corner = control.mapTo(&form, QPoint());
     return {twips(corner.x()), twips(corner.y()), twips(control.width()), twips(control.height())};
+}
+
+// Fonts come in steps of a twip; the next larger one would be too wide.
+double font_not_above(double points) {
+    constexpr double twips_a_point = 20;
+    return std::floor(points * twips_a_point) / twips_a_point;
 }
 
 QString elided(const PrintSurface& paper, QString text, double width) {
@@ -36,7 +43,7 @@ void put_text(PrintSurface& paper, const QLabel& label, const QRectF& place) {
     QString text = label.text();
     double width = paper.text_width(text);
     if (width > place.width()) {
-        font.points = std::max(smallest_points, font.points * place.width() / width);
+        font.points = std::max(smallest_points, font_not_above(font.points * place.width() / width));
         paper.font(font);
         if (paper.text_width(text) > place.width() + 1) text = elided(paper, text, place.width());
         width = paper.text_width(text);

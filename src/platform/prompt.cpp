@@ -26,6 +26,9 @@ private:
     bool waiting_;
 };
 
+// A longer text makes a box that is higher than the screen, with its buttons out of sight.
+constexpr qsizetype longest_shown = 1500;
+
 bool show(QMessageBox::Icon icon, const QString& text, const QString& title, bool with_cancel) {
     if (script != nullptr) return script->answer(title, text);
     const ArrowCursor arrow;
@@ -34,7 +37,8 @@ bool show(QMessageBox::Icon icon, const QString& text, const QString& title, boo
     box.setIcon(icon);
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
-    box.setText(text);
+    box.setText(text.size() <= longest_shown ? text : text.left(longest_shown) + QStringLiteral(" …"));
+    if (text.size() > longest_shown) box.setDetailedText(text);
     QPushButton* ok = box.addButton(QStringLiteral("Tamam"), QMessageBox::AcceptRole);
     box.setDefaultButton(ok);
     box.setEscapeButton(with_cancel ? box.addButton(QStringLiteral("İptal"), QMessageBox::RejectRole) : ok);

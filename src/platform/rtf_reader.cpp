@@ -98,6 +98,11 @@ void Reader::skip_group() {
     if (groups_.size() > 1) skipped_depth_ = 1;
 }
 
+// A destination that may be left out, unless it is a shape: that one holds the text of a text box.
+void Reader::skip_optional_group() {
+    if (!input_.mid(at_).startsWith(u"\\shpinst")) skip_group();
+}
+
 void Reader::control() {
     if (at_ == input_.size()) return;
     if (is_latin(input_[at_].unicode()))
@@ -112,7 +117,7 @@ void Reader::control_symbol(char16_t symbol) {
         case u'\'':
             return hex_letter();
         case u'*':
-            return skip_group();  // a destination that may be left out
+            return skip_optional_group();
         case u'~':
             return letter(QChar::Nbsp);
         case u'-':

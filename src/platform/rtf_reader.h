@@ -87,6 +87,7 @@ private:
     void open_group();
     void close_group();
     void skip_group();
+    void skip_optional_group();
     void skip_binary(int size);
     void literal_run();
     void letter(QChar letter);

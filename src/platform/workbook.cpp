@@ -13,8 +13,7 @@ namespace {
 
 QByteArray bytes_of(const QString& name) {
     QFile file(paths::native(name));
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error(("Dosya okunamadı: " + file.errorString()).toStdString());
+    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("Dosya okunamadı.");
     if (file.size() > workbook::longest_part) throw workbook::too_large();
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) throw std::runtime_error("Dosya okunamadı.");

@@ -32,7 +32,11 @@ Program::Program()
       posting_(kurvo_, session_, statement_, collections_,
                {[this] { fatura_yaz(kurvo_, session_); }, [this] { dossier_.plan_yaz(); }}),
       start_up_(kurvo_, session_, terms_, institution_flag_) {
-    on(&terms_, &Terms::opened, this, [this] { list_.term_opened(); });
+    on(&terms_, &Terms::opened, this, [this] {
+        list_.term_opened();
+        // The day's sessions are the term's, not the student's.
+        if (kurvo_.Frame_Etud->isVisible()) day_board_.gun_tahtasi_doldur();
+    });
     on(&start_up_, &StartUp::flags_read, this, [this] { list_.apply_list_state(); });
     on(&kurvo_, &Kurvo::closing, this, [this] { end(); });
     PrintSurface::set_observer([this](const PrintSurface::Document& paper) { tell_file(paper); });

@@ -18,7 +18,7 @@ constexpr unsigned leaver_color = 0x8080FF;
 
 constexpr QStringView times_of_class[] = {u"", u"Hİ-Sabah", u"HS-Sabah", u"Hİ-Öğle", u"HS-Öğle"};
 constexpr QStringView tracks[] = {u"", u"Sözel", u"Sayısal", u"Eşit Ağırlık", u"Yabancı Dil", u"KPSS", u"DGS", u"YÖS"};
-// The card names the grades one higher than the record form lists them; a first-year pupil shows none.
+// As the record form lists them, but a first-year pupil shows none.
 constexpr QStringView grades[] = {u"",        u"2.Sınıf", u"3.Sınıf", u"4.Sınıf", u"5.Sınıf", u"6.Sınıf", u"7.Sınıf",
                                   u"8.Sınıf", u"Lise-1",  u"Lise-2",  u"Lise-3",  u"Lise-4",  u"Mezun"};
 

@@ -7,6 +7,8 @@
 #include "register/text_color.h"
 #include "session/parameter_files.h"
 
+#include <utility>
+
 namespace {
 
 constexpr unsigned active_heading = 0xC0FFFF;
@@ -72,7 +74,16 @@ void StudentList::listeyi_yenile() {
 void StudentList::term_opened() {
     mark_heading(kurvo_, 0, false);
     mark_heading(kurvo_, 2, false);
-    ogrenci_listele();
+    GridView& list = *kurvo_.TABLO;
+    Filled now{session_.termDb.stamp(), session_.hideArchived, list.revision()};
+    if (filled_ == now) {
+        list.forget_current();
+        mark_heading(kurvo_, number_column, true);
+    } else {
+        ogrenci_listele();
+        now.revision = list.revision();
+        filled_ = std::move(now);
+    }
     card_.mark_number_box();
 }
 

@@ -6,6 +6,10 @@
 
 #include <QObject>
 
+#include <cstdint>
+#include <optional>
+#include <string>
+
 class StudentCard;
 
 class StudentList : public QObject {
@@ -25,7 +29,7 @@ public:
     // that the clerk had chosen.
     void listeyi_yenile();
 
-    // After a term was opened: headings by number, list filled. The caller counts the rows.
+    // After a term was opened: headings by number, list filled, nobody chosen in it. The caller counts the rows.
     void term_opened();
 
     // Opens or closes the list as the first character of uiFlags says; writes no file.
@@ -38,7 +42,18 @@ private:
     void TabloAcKapa_Click();
     void show_list(bool open);
 
+    // What the rows were read from, and the grid as it was then: the start opens the term and switches to it, and a
+    // clerk may choose the open term again.
+    struct Filled {
+        std::string file;
+        QString hideArchived;
+        std::uint64_t revision;
+
+        bool operator==(const Filled&) const = default;
+    };
+
     Kurvo& kurvo_;
     SessionContext& session_;
     StudentCard& card_;
+    std::optional<Filled> filled_;
 };

@@ -120,6 +120,7 @@ void Terms::empty_attendance() {
 
 void Terms::empty_sessions() {
     for (GridView* sessions : {kurvo_.FEtud_Tablo1, kurvo_.FEtud_Tablo2}) sessions->set_rows(1);
+    kurvo_.FEtud_BASLIK2->clear();  // a date over no rows would say that the day has no sessions
 }
 
 void Terms::empty_overview() {

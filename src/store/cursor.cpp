@@ -14,7 +14,7 @@ using Kind = ReadRequest::Kind;
 constexpr int first_batch = 32;
 constexpr int batch_after_write = 8;
 constexpr std::size_t most_values = 16384;  // of a batch that has grown
-constexpr std::size_t least_width = 8;  // that is reckoned with
+constexpr std::size_t least_width = 8;      // that is reckoned with
 
 }  // namespace
 

@@ -67,6 +67,10 @@ std::vector<TableDef> Database::tables() const {
     return require_open(session_).engine().tables();
 }
 
+std::string Database::stamp() const {
+    return require_open(session_).engine().stamp();
+}
+
 Database OpenDatabase(const QString& path) {
     Database database;
     database.session_ = std::make_shared<Database::Session>(path, open_engine(path, paths::native(path)));

@@ -59,6 +59,8 @@ public:
     virtual void read(const ReadRequest& request, Batch& result) = 0;
     virtual std::int64_t count(const TableInfo& table) = 0;
 
+    // Another text after every write to the file, by whomever; the same for all openers while nobody writes.
+    virtual std::string stamp() = 0;
     // Another number as soon as another opener of the file has committed a write.
     virtual std::int64_t version() = 0;
     // Copies the whole file as it stands at one moment: to a new file, on the disk when this returns, or into one of

@@ -13,6 +13,7 @@
 
 #include <initializer_list>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <vector>
@@ -46,6 +47,9 @@ public:
     void Close();
     bool is_open() const;
     std::vector<TableDef> tables() const;
+    // Another text after every write to the file, by whomever; the same while nobody writes, also when the file was
+    // closed and opened again. Whoever keeps what he read may keep it for as long as the stamp from before the reading.
+    std::string stamp() const;
 
     struct Session;
 

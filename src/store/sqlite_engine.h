@@ -25,6 +25,7 @@ public:
     void create_table(const TableDef& table) override;
     void read(const ReadRequest& request, Batch& result) override;
     std::int64_t count(const TableInfo& table) override;
+    std::string stamp() override;
     std::int64_t version() override;
     void copy_to(const QString& name, const QString& native_path) override;
     QStringList damages() override;

@@ -3,6 +3,7 @@
 #include "store/messages.h"
 #include "store/sqlite_engine.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 
@@ -76,6 +77,20 @@ void SqliteEngine::check_header() {
     guarded({}, [&] {
         if (has_log) execute("PRAGMA journal_mode=DELETE");
         execute("PRAGMA synchronous=FULL");
+    });
+}
+
+// The counter that every commit raises. A file that was put in place of another one may have the same number, but
+// hardly the same time and size. The statement keeps writers out, and first plays back what a cut left half written.
+std::string SqliteEngine::stamp() {
+    return guarded({}, [&] {
+        SqliteStatement& reading = statement("SELECT COUNT(*) FROM sqlite_master");
+        const SqliteReset reset(reading);
+        reading.step();
+        const std::uint32_t commits = big_endian(read_header(connection_.get(), name_), 24);
+        const QFileInfo file(QString::fromStdString(identity_));
+        return identity_ + '|' + std::to_string(commits) + '|' + std::to_string(file.size()) + '|' +
+               std::to_string(file.lastModified().toMSecsSinceEpoch());
     });
 }
 

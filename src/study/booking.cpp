@@ -11,6 +11,8 @@
 #include "study/session_times.h"
 #include "study/student_sessions.h"
 
+#include <utility>
+
 namespace {
 
 constexpr int latest_hour = 24, latest_minute = 59;
@@ -75,7 +77,11 @@ void Booking::connect_times() {
 
 void Booking::connect_lists() {
     GridView* sessions = kurvo_.FEtud_Tablo1;
-    on(sessions, &GridView::cell_double_clicked, this, [this](int row, int) { FEtud_Tablo1_DblClick(row); });
+    on(sessions, &GridView::cell_pressed, this,
+       [this] { pressed_as_another_came_ = std::exchange(another_came_, false); });
+    on(sessions, &GridView::cell_double_clicked, this, [this](int row, int) {
+        if (!pressed_as_another_came_) FEtud_Tablo1_DblClick(row);
+    });
     sessions->setToolTip(QStringLiteral("Çift tıklama ya da Ctrl+Del etüdü iptal eder"));
     control_events::on_key_down(sessions, [this, sessions](const QKeyEvent& key) {
         if (key.key() != Qt::Key_Delete || key.modifiers() != Qt::ControlModifier) return false;
@@ -135,6 +141,8 @@ void Booking::store_session() {
 void Booking::etud_liste_doldur() {
     const std::vector<StudentSession> sessions = read_sessions(session_.termDb, kurvo_.LONO->text());
     GridView& grid = *kurvo_.FEtud_Tablo1;
+    const std::int64_t former = std::exchange(listed_student_, session_.shownStudent);
+    another_came_ = grid.hasFocus() && former != listed_student_;
     const GridView::Filling filling(grid);
     grid.set_rows(1);
     if (sessions.empty()) return;

@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <cstdint>
 #include <functional>
 
 // What shows sessions elsewhere and follows a booking. An empty function is skipped.
@@ -42,4 +43,8 @@ private:
     Kurvo& kurvo_;
     SessionContext& session_;
     BookingFollowers followers_;
+    // A press on the list that leaves the number box may bring another student's sessions under the pointer. A double
+    // click that began with it meant a row of the former list.
+    std::int64_t listed_student_ = 0;
+    bool another_came_ = false, pressed_as_another_came_ = false;
 };

@@ -9,7 +9,10 @@
 #include "study/session_times.h"
 
 DayBoard::DayBoard(Kurvo& kurvo, SessionContext& session) : kurvo_(kurvo), session_(session) {
-    on(kurvo_.FEtud_TARIH, &DatePicker::dateChanged, this, [this] { gun_tahtasi_doldur(); });
+    // A date half typed is taken when the form closes, and the term is closed by then.
+    on(kurvo_.FEtud_TARIH, &DatePicker::dateChanged, this, [this] {
+        if (session_.termDbOpen) gun_tahtasi_doldur();
+    });
 }
 
 // A day without sessions makes no scratch file.

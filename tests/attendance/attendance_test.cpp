@@ -115,6 +115,8 @@ private slots:
         QTest::newRow("changed without") << true << "3|grip|2| rapor |2|rapor";
         QTest::newRow("no hours, dropped") << false << "||0|grip||";
         QTest::newRow("no hours, survives") << true << "3|grip|0|rapor||grip";
+        const QString long_one(40000, 'x');
+        QTest::newRow("of any length") << true << "||1|" + long_one + "|1|" + long_one;
         QTest::newRow("emptied") << false << "3|grip|3| |3|";
     }
 

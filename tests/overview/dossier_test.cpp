@@ -5,6 +5,7 @@
 #include "support/paper_lines.h"
 
 #include <QProcess>
+#include <QScopeGuard>
 #include <QStandardPaths>
 
 namespace {
@@ -85,6 +86,10 @@ private slots:
         QVERIFY(photo.save(desk.school.drives.path("c/okul/foto/1250.bmp")));
         desk.session.photoFolder = "c:\\okul\\foto\\";
         desk.session.photoFile = "1250.bmp";
+        QLabel* const wide[] = {desk.kurvo.LANNE, desk.kurvo.LBABA, desk.kurvo.LATEL, desk.kurvo.LBTEL};
+        for (int i = 0; i < 4; ++i) wide[i]->setText(QString("İĞ").repeated(13 + i));
+        qApp->setStyleSheet("QLabel[x=\"y\"] { color: red; }");  // as the program's look
+        const auto plain_look = qScopeGuard([] { qApp->setStyleSheet({}); });
         desk.kurvo.FToplu_Text1->setHtml("<b>Çalışkan</b> ve <i>dürüst</i>.");
         desk.print();
         QCOMPARE(desk.papers.size(), std::size_t(1));
@@ -92,10 +97,12 @@ private slots:
         const QStringList texts = paper_texts(desk.page(1));
         for (const char* text : {"ÖZEL IŞIK", " AYŞE", " 1250", "1", "Okulu :", "   OYA", "  Cep telefonu"})
             QVERIFY2(texts.contains(text), text);
+        for (const QLabel* label : wide) QVERIFY(texts.contains("  " + label->text()));  // smaller, not cut
         for (const PrintSurface::Operation& operation : desk.page(1)) {
             QVERIFY(operation.x >= 500 && operation.x2 <= 11400 && operation.y2 <= 16340);
             if (operation.kind == Kind::picture)
                 QVERIFY(std::abs((operation.x2 - operation.x) / 3 - operation.y2 + operation.y) < 5);
+            if (operation.kind == Kind::text) QCOMPARE(operation.font.family, "Times New Roman");
             if (operation.kind == Kind::rich_text) QCOMPARE(operation.text, "Çalışkan ve dürüst.");
         }
         if (QStandardPaths::findExecutable("pdftotext").isEmpty()) QSKIP("no pdftotext to read the page with");

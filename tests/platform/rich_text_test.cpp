@@ -111,6 +111,8 @@ private slots:
             {"{\\rtf1{\\fonttbl{\\f1\\fcharset204 A;}}\\f1\\'cc\\f0\\'dd}", "Мİ"},
             {"{\\rtf1\\ansicpg1252 \\'fe\\ansicpg1254 \\'fe}", "þş"},
             {"{\\rtf1{\\b kal\\'fd", "kalı"},
+            {"{\\rtf1 a{\\shp{\\*\\shpinst{\\sp{\\sv 1}}{\\shptxt kutu\\par}}{\\shprslt kutu}}b{\\footnote  d}}",
+             "akutu\nb d"},
             {"{\\rtf1 a}b}{\\rtf1 c}", "a"},
             {"{\\rtf1 a\\'zzb\\'4\\}", "azzb4}"},
             {"{\\rtf1\\fs99999999999999999999\\u99999999999?a\\bin-5 b\\uc-7\\u351 c}",

@@ -110,18 +110,10 @@ private slots:
     void failure_is_told_by_the_tooltip_alone_data() {
         QTest::addColumn<QString>("fault");
         QTest::addColumn<QString>("said");
-        QTest::newRow("no device") << "none"
-                                   << "Kamera bulunamadı";
-        QTest::newRow("missing") << "missing"
-                                 << "Kamera açılamadı";
-        QTest::newRow("damaged") << "damaged"
-                                 << "Kamera açılamadı";
-        QTest::newRow("pulled out") << "pulled"
-                                    << "Kamera durdu";
-        QTest::newRow("folder gone") << "folder"
-                                     << "klasörü bulunamadı";
-        QTest::newRow("row out of reach") << "row"
-                                          << "kaydına yazılamadı";
+        const QStringList faults[]{{"none", "Kamera bulunamadı"},       {"missing", "Kamera açılamadı"},
+                                   {"damaged", "Kamera açılamadı"},     {"pulled", "Kamera durdu"},
+                                   {"place", "bu adda bir klasör var"}, {"row", "kaydına yazılamadı"}};
+        for (const QStringList& fault : faults) QTest::newRow(qPrintable(fault[0])) << fault[0] << fault[1];
     }
     void failure_is_told_by_the_tooltip_alone() {
         QFETCH(QString, fault);

@@ -35,6 +35,36 @@ private slots:
         QCOMPARE(desk.kurvo.LADSOYAD->text(), "ISIL");
     }
 
+    // The file of the open term is read again only where somebody has written to it.
+    void term_chosen_again() {
+        Desk desk(students);
+        connect(&desk.terms, &Terms::opened, &desk.list, &StudentList::term_opened);
+        desk.terms.donem_listele();
+        desk.click_heading(2);
+        desk.terms.donem_degistir();
+        QCOMPARE(desk.listed(), (QStringList{"2", "4", "5", "10", "33"}));
+        const auto untouched = desk.kurvo.TABLO->revision();
+        desk.kurvo.TABLO->set_current(4, 1);
+        desk.terms.donem_degistir();
+        QCOMPARE(desk.kurvo.TABLO->revision(), untouched);
+        QCOMPARE(desk.kurvo.TABLO->row(), -1);
+        QVERIFY(desk.kurvo.TABLO->selectionModel()->selection().isEmpty());
+
+        {
+            auto other = store::OpenDatabase(desk.session.term_file());
+            auto far = other.OpenRecordset("Ogrenci");
+            far.Seek("=", {33});
+            far.Edit();
+            far["ADSOY"] = "CEMİLE";
+            far.Update();
+        }
+        desk.terms.donem_degistir();
+        QCOMPARE(desk.listed(2), (QStringList{"ÇAĞLA", "ISIL", "İREM", "ŞULE", "CEMİLE"}));
+        desk.kurvo.SDONEM->setCurrentText("2025");
+        desk.terms.donem_degistir();
+        QCOMPARE(desk.listed(), QStringList());
+    }
+
     void hidden_students() {
         Desk desk({{{"ONO", 1}, {"ADSOY", "A"}, {"SAKLA", 0}},
                    {{"ONO", 2}, {"ADSOY", "B"}, {"SAKLA", 1}},

@@ -4,6 +4,8 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
+
 namespace {
 
 // Student 7 with one instalment of 100, which the second workstation wants, too.
@@ -33,6 +35,24 @@ private slots:
         QCOMPARE(first.finish(), 0);
         QCOMPARE(second.finish(), 0);
         QCOMPARE(desk.amount(), 400.0);
+    }
+
+    void stamp_tells_of_every_write() {
+        Instalment desk;
+        const std::string first = desk.database.stamp();
+        desk.amount();
+        QCOMPARE(store::OpenDatabase(desk.file).stamp(), first);
+        QCOMPARE(desk.database.stamp(), first);
+        std::vector<std::string> stamps{first};
+        for (int write = 0; write < 4; ++write) {
+            auto other = store::OpenDatabase(desk.file);
+            auto far = other.OpenRecordset("Odeme");
+            set(write % 2 ? desk.rows : far, "TUTAR", write);
+            stamps.push_back(desk.database.stamp());
+            QCOMPARE(other.stamp(), stamps.back());
+        }
+        std::ranges::sort(stamps);
+        QVERIFY(std::ranges::adjacent_find(stamps) == stamps.end());
     }
 
     void edit_waits_then_says_who_holds_the_file() {

@@ -129,6 +129,24 @@ private slots:
         QCOMPARE(desk.etud(), QStringList({changed, other}));
         QCOMPARE(desk.rows(kurvo.FEtud_Tablo1), QStringList("24.11.2026|09:00|10:30|Matematik|AYŞE (VEKİL)| "));
         QCOMPARE(desk.rows(kurvo.FEtud_Tablo2), QStringList("09:00|10:30|Matematik|2|AYŞE (VEKİL)| "));
+        // The press that leaves the number box brings 1251's sessions: none of these was meant.
+        desk.type(kurvo.LONO, "1251");
+        desk.click(kurvo.FEtud_Tablo1, 1, 0, true);
+        QVERIFY(kurvo.FEtud_Tablo1->hasFocus() && desk.etud() == QStringList({changed, other}));
+        desk.show_student(1251);  // shown again as the box is left, the list is the same
+        desk.click(kurvo.FEtud_Tablo1, 1, 0, true);
+        QCOMPARE(desk.etud(), QStringList(changed));
+        const QStringList board("09:00|10:30|Matematik|1|AYŞE (VEKİL)| ");
+        QCOMPARE(desk.rows(kurvo.FEtud_Tablo2), board);
+        // Without a student there is the day still. A date half typed is taken while the form closes.
+        emit kurvo.SDONEM->activated(0);
+        QVERIFY(desk.rows(kurvo.FEtud_Tablo1).isEmpty() && !kurvo.FEtud_BASLIK2->text().isEmpty());
+        QCOMPARE(desk.rows(kurvo.FEtud_Tablo2), board);
+        kurvo.FEtud_TARIH->setFocus(Qt::TabFocusReason);
+        QTest::keyClicks(kurvo.FEtud_TARIH, "12");
+        kurvo.close();
+        QTRY_COMPARE(kurvo.FEtud_TARIH->key(), "20261112");
+        QVERIFY(desk.failures.isEmpty());
     }
 
     void board_and_summaries() {

@@ -19,7 +19,7 @@ const OptionDef& find_option(const std::vector<OptionDef>& options, const QStrin
 
 }  // namespace
 
-Arguments::Arguments(const QStringList& words, const std::vector<OptionDef>& options, int positionals) {
+Arguments::Arguments(const QStringList& words, const std::vector<OptionDef>& options, const QStringList& positionals) {
     for (qsizetype i = 0; i < words.size(); ++i) {
         if (!words[i].startsWith(u"--"_s)) {
             positionals_.append(words[i]);
@@ -37,8 +37,10 @@ Arguments::Arguments(const QStringList& words, const std::vector<OptionDef>& opt
             take_option(option, words[++i]);
         }
     }
-    if (positionals_.size() < positionals) wrong_use(u"Eksik değer var."_s);
-    if (positionals_.size() > positionals) wrong_use(u"Fazla değer: "_s + positionals_.at(positionals));
+    const auto may_be_missing =
+        std::ranges::count_if(positionals, [](const auto& one) { return one.startsWith(u'['); });
+    if (positionals_.size() < positionals.size() - may_be_missing) wrong_use(u"Eksik değer var."_s);
+    if (positionals_.size() > positionals.size()) wrong_use(u"Fazla değer: "_s + positionals_.at(positionals.size()));
 }
 
 QString Arguments::value(const QString& option, const QString& fallback) const {

@@ -17,10 +17,10 @@ class Arguments {
 public:
     // "--ad deger" and "--ad=deger" are the same. Throws std::invalid_argument, in Turkish, for an option that
     // is not in `options`, one given twice that does not repeat, a missing value, and any other number of
-    // values without an option than `positionals`.
-    Arguments(const QStringList& words, const std::vector<OptionDef>& options, int positionals);
+    // values without an option than `positionals`, of which those in brackets may be missing.
+    Arguments(const QStringList& words, const std::vector<OptionDef>& options, const QStringList& positionals);
 
-    QString positional(int index) const { return positionals_.at(index); }
+    QString positional(int index, const QString& fallback = {}) const { return positionals_.value(index, fallback); }
     bool has(const QString& option) const { return values_.contains(option); }
     QString value(const QString& option, const QString& fallback = {}) const;
     QStringList values(const QString& option) const { return values_.value(option); }

@@ -38,8 +38,7 @@ int run(const Verb& verb, const QStringList& words) {
         return done;
     }
     try {
-        const auto positionals = verb.positionals.split(u' ', Qt::SkipEmptyParts).size();
-        verb.run(Arguments(words, verb.options, static_cast<int>(positionals)));
+        verb.run(Arguments(words, verb.options, verb.positionals.split(u' ', Qt::SkipEmptyParts)));
         return done;
     } catch (const std::invalid_argument& error) {
         print(stderr, QString::fromUtf8(error.what()));

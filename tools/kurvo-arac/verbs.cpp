@@ -1,22 +1,16 @@
 #include "verbs.h"
 
+#include "console.h"
 #include "launch.h"
 #include "sample.h"
 #include "school.h"
 #include "table_copy.h"
+#include "upkeep_verbs.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QRegularExpression>
 
-#include <algorithm>
-#include <cstdio>
 #include <stdexcept>
-
-#ifdef Q_OS_WIN
-#include <fcntl.h>
-#include <io.h>
-#endif
 
 using namespace Qt::StringLiterals;
 
@@ -24,30 +18,6 @@ namespace {
 
 [[noreturn]] void wrong_use(const QString& words) {
     throw std::invalid_argument(words.toStdString());
-}
-
-void say(const QByteArray& utf8) {
-    if (std::fwrite(utf8.data(), 1, static_cast<std::size_t>(utf8.size()), stdout) ==
-            static_cast<std::size_t>(utf8.size()) &&
-        std::fflush(stdout) == 0)
-        return;
-    throw std::runtime_error("Çıktı yazılamadı.");
-}
-
-// Bytes pass as they are; Windows would turn their line ends.
-void plain_bytes(std::FILE* stream) {
-#ifdef Q_OS_WIN
-    _setmode(_fileno(stream), _O_BINARY);
-#else
-    Q_UNUSED(stream)
-#endif
-}
-
-QByteArray standard_input() {
-    plain_bytes(stdin);
-    QFile input;
-    if (!input.open(stdin, QIODevice::ReadOnly)) throw std::runtime_error("Girdi okunamadı.");
-    return input.readAll();
 }
 
 template <typename Number>
@@ -92,7 +62,7 @@ void set_up(const Arguments& arguments) {
             throw;
         }
     }
-    say((adding ? u"Dönem eklendi: %1\n"_s : u"Okul kuruldu: %1\n"_s).arg(root).toUtf8());
+    console::say((adding ? u"Dönem eklendi: %1\n"_s : u"Okul kuruldu: %1\n"_s).arg(root));
 }
 
 void user(const Arguments& arguments) {
@@ -133,30 +103,28 @@ void start(const Arguments& arguments) {
 }
 
 void list_tables(const Arguments& arguments) {
-    say(table_copy::overview(arguments.positional(0)).toUtf8());
+    console::say(table_copy::overview(arguments.positional(0)));
 }
 
 void dump_table(const Arguments& arguments) {
-    plain_bytes(stdout);
-    table_copy::dump(arguments.positional(0), arguments.positional(1), arguments.value(u"sira"_s), say);
+    console::plain_bytes(stdout);
+    table_copy::dump(arguments.positional(0), arguments.positional(1), arguments.value(u"sira"_s),
+                     [](const QByteArray& piece) { console::say(piece); });
 }
 
 void load_table(const Arguments& arguments) {
-    const int rows = table_copy::load(arguments.positional(0), arguments.positional(1), standard_input(),
+    const int rows = table_copy::load(arguments.positional(0), arguments.positional(1), console::standard_input(),
                                       arguments.has(u"bosalt"_s));
-    say(u"%1 kayıt eklendi.\n"_s.arg(rows).toUtf8());
+    console::say(u"%1 kayıt eklendi.\n"_s.arg(rows));
 }
 
 const OptionDef root_option{u"kok"_s, u"KÖK"_s};
 
-}  // namespace
-
-const std::vector<Verb>& verbs() {
-    static const std::vector<Verb> all{
-        {u"kur"_s,
-         {},
-         u"Bir okulun bütün dosyalarını yaratır."_s,
-         uR"(  --kok KÖK      veri kökü; verilmezse c:\okul\
+std::vector<Verb> daily_verbs() {
+    return {{u"kur"_s,
+             {},
+             u"Bir okulun bütün dosyalarını yaratır."_s,
+             uR"(  --kok KÖK      veri kökü; verilmezse c:\okul\
   --donem KOD    dönem; birkaç kez verilebilir, verilmezse 2026
   --ornek N      N öğrencilik örnek bir okul doldurur
   --tohum S      örneğin tohumu (tam sayı, verilmezse 1): aynı tohum aynı okulu verir
@@ -165,23 +133,23 @@ Kökün altında data\Bilgi.mdb, data\Dsys.mdb, data\kbase.mdb ve her dönem iç
 c:\qlm\Psys.mdb yaratılır. Okulun var olan bir dosyasına dokunulmaz: dosya söylenir ve hiçbir şey yapılmaz.
 Kökte okul varsa ve --donem verilmişse yalnız o dönemler eklenir. c:\qlm\Psys.mdb okulun değil iş istasyonunundur;
 varsa olduğu gibi kalır.)"_s,
-         {root_option, {u"donem"_s, u"KOD"_s, true}, {u"ornek"_s, u"N"_s}, {u"tohum"_s, u"S"_s}},
-         set_up},
-        {u"kullanici"_s,
-         u"KOD"_s,
-         u"Bir kullanıcı ekler ya da seçeneklerini değiştirir."_s,
-         uR"(  --kok KÖK      veri kökü; verilmezse c:\okul\
+             {root_option, {u"donem"_s, u"KOD"_s, true}, {u"ornek"_s, u"N"_s}, {u"tohum"_s, u"S"_s}},
+             set_up},
+            {u"kullanici"_s,
+             u"KOD"_s,
+             u"Bir kullanıcı ekler ya da seçeneklerini değiştirir."_s,
+             uR"(  --kok KÖK      veri kökü; verilmezse c:\okul\
   --secenek XXXX seçenek karakterleri; verilmezse 1011
 
   1. karakter 1  tahsilat hep bugünün tarihiyle yapılır
   3. karakter 1  adlar büyük harfle yazılır
   4. karakter    0: silme ve ayrılış kapalı; 1'den başka: kayıtlı öğrencinin bedeli ve planı kilitli)"_s,
-         {root_option, {u"secenek"_s, u"XXXX"_s}},
-         user},
-        {u"baslat"_s,
-         {},
-         u"Devir dosyasını yazar ve Kurvo'yu başlatır."_s,
-         uR"(  --kok KÖK         veri kökü; verilmezse c:\okul\
+             {root_option, {u"secenek"_s, u"XXXX"_s}},
+             user},
+            {u"baslat"_s,
+             {},
+             u"Devir dosyasını yazar ve Kurvo'yu başlatır."_s,
+             uR"(  --kok KÖK         veri kökü; verilmezse c:\okul\
   --donem KOD       dönem; verilmezse kökteki en yeni dönem
   --kullanici KOD   kullanıcı; verilmezse MEMUR
   --haklar 111111   düğmeler sırasıyla: kayıt, tahsilat, devamsızlık, etüd, not, toplu bilgi
@@ -192,41 +160,51 @@ varsa olduğu gibi kalır.)"_s,
   --uzak SUNUCU,VERITABANI,KULLANICI,PAROLA,ANAHTAR
                     uzak öğrenci dizini; verilmezse yayın yok
   --yalniz-dosya    yalnız c:\qlm\log.txt ile prg kaydı yazılır, program başlatılmaz)"_s,
-         {root_option,
-          {u"donem"_s, u"KOD"_s},
-          {u"kullanici"_s, u"KOD"_s},
-          {u"haklar"_s, u"111111"_s},
-          {u"gizle"_s, u"0|1"_s},
-          {u"surum"_s, u"X.Y"_s},
-          {u"okul"_s, u"AD"_s},
-          {u"foto"_s, u"YOL"_s},
-          {u"uzak"_s, u"SUNUCU,VERITABANI,KULLANICI,PAROLA,ANAHTAR"_s},
-          {u"yalniz-dosya"_s, {}}},
-         start},
-        {u"tablolar"_s,
-         u"DOSYA"_s,
-         u"Bir dosyanın tablolarını, alanlarını ve dizinlerini listeler."_s,
-         uR"(DOSYA bu makinenin bir yolu ya da c:\okul\data\Bilgi.mdb gibi bir sürücü yoludur.)"_s,
-         {},
-         list_tables},
-        {u"dok"_s,
-         u"DOSYA TABLO"_s,
-         u"Bir tabloyu CSV olarak standart çıktıya döker."_s,
-         uR"(  --sira INDEKS  kayıtlar bu dizinin sırasıyla; verilmezse tablonun ana sırası
+             {root_option,
+              {u"donem"_s, u"KOD"_s},
+              {u"kullanici"_s, u"KOD"_s},
+              {u"haklar"_s, u"111111"_s},
+              {u"gizle"_s, u"0|1"_s},
+              {u"surum"_s, u"X.Y"_s},
+              {u"okul"_s, u"AD"_s},
+              {u"foto"_s, u"YOL"_s},
+              {u"uzak"_s, u"SUNUCU,VERITABANI,KULLANICI,PAROLA,ANAHTAR"_s},
+              {u"yalniz-dosya"_s, {}}},
+             start},
+            {u"tablolar"_s,
+             u"DOSYA"_s,
+             u"Bir dosyanın tablolarını, alanlarını ve dizinlerini listeler."_s,
+             uR"(DOSYA bu makinenin bir yolu ya da c:\okul\data\Bilgi.mdb gibi bir sürücü yoludur.)"_s,
+             {},
+             list_tables},
+            {u"dok"_s,
+             u"DOSYA TABLO"_s,
+             u"Bir tabloyu CSV olarak standart çıktıya döker."_s,
+             uR"(  --sira INDEKS  kayıtlar bu dizinin sırasıyla; verilmezse tablonun ana sırası
 
 UTF-8, RFC 4180; ilk satır alan adlarıdır. Null boş alan, boş metin "" olarak, sayılar noktalı yazılır; zengin metin
 saklandığı gibidir.)"_s,
-         {{u"sira"_s, u"INDEKS"_s}},
-         dump_table},
-        {u"yukle"_s,
-         u"DOSYA TABLO"_s,
-         u"Standart girdideki CSV'yi bir tabloya yükler."_s,
-         uR"(  --bosalt       tablo önce boşaltılır
+             {{u"sira"_s, u"INDEKS"_s}},
+             dump_table},
+            {u"yukle"_s,
+             u"DOSYA TABLO"_s,
+             u"Standart girdideki CSV'yi bir tabloya yükler."_s,
+             uR"(  --bosalt       tablo önce boşaltılır
 
 dok'un yazdığı biçimi okur. Ya hepsi yüklenir ya hiçbiri; kabul edilmeyenin satırı ve alanı söylenir. CSV'de bulunmayan
 alanlar Null olur.)"_s,
-         {{u"bosalt"_s, {}}},
-         load_table}};
+             {{u"bosalt"_s, {}}},
+             load_table}};
+}
+
+}  // namespace
+
+const std::vector<Verb>& verbs() {
+    static const std::vector<Verb> all = [] {
+        std::vector<Verb> verbs = daily_verbs();
+        for (const Verb& verb : upkeep_verbs()) verbs.push_back(verb);
+        return verbs;
+    }();
     return all;
 }
 

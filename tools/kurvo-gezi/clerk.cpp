@@ -17,6 +17,10 @@ QStringList papers_in(const QDir& folder) {
     return folder.entryList({u"*.pdf"_s}, QDir::Files, QDir::Time | QDir::Reversed);
 }
 
+QPoint place_of(const GridView& grid, int row, int column) {
+    return grid.viewport()->mapFrom(grid.parentWidget(), grid.cell_rect(row, column).center());
+}
+
 }  // namespace
 
 void must(bool seen, const QString& words) {
@@ -73,8 +77,28 @@ void Clerk::click_cell(GridView& grid, int row, int column) {
     reach(&grid);
     must(row < grid.rows(), grid.objectName() + u" has no such row"_s);
     grid.set_current(row, column);
-    const QPoint place = grid.viewport()->mapFrom(grid.parentWidget(), grid.cell_rect(row, column).center());
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place_of(grid, row, column));
+}
+
+void Clerk::double_click_cell(GridView& grid, int row, int column) {
+    click_cell(grid, row, column);
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, place_of(grid, row, column));
+}
+
+void Clerk::choose(QComboBox* list, int position) {
+    reach(list);
+    list->setFocus();
+    for (int presses = 0; presses <= list->count() && list->currentIndex() != position; ++presses)
+        QTest::keyClick(list, list->currentIndex() < position ? Qt::Key_Down : Qt::Key_Up);
+    must(list->currentIndex() == position, list->objectName() + u" does not take the choice"_s);
+}
+
+void Clerk::type_date(DatePicker* box, const QString& shown) {
+    reach(box);
+    box->setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(box, shown);
+    QTest::keyClick(box, Qt::Key_Tab);
+    must(dates::shown(box->date()) == shown, box->objectName() + u" does not take "_s + shown);
 }
 
 void Clerk::resize(const QSize& size) {

@@ -2,11 +2,13 @@
 #pragma once
 
 #include "office.h"
+#include "platform/date_picker.h"
 #include "platform/grid_view.h"
 #include "platform/prompt.h"
 #include "register/program.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 
@@ -31,6 +33,9 @@ public:
     void type(QLineEdit* box, const QString& text, Qt::Key then = Qt::Key_unknown);  // in place of what stands there
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});                     // where the focus is
     void click_cell(GridView& grid, int row, int column);
+    void double_click_cell(GridView& grid, int row, int column);
+    void choose(QComboBox* list, int position);             // by the arrow keys
+    void type_date(DatePicker* box, const QString& shown);  // "05.10.2026", then Tab
 
     void resize(const QSize& size);  // of the active window
     // Grabs the active window; returns the file's path.

@@ -115,9 +115,7 @@ void Day::cancel_one() {
     int row = sessions.rows() - 1;
     while (row > 0 && sessions.text(row, 5) != u"Türev soruları") --row;
     must(row > 0, u"the student's list lacks the session"_s);
-    clerk_.click_cell(sessions, row, 3);
-    const QPoint place = sessions.viewport()->mapFrom(sessions.parentWidget(), sessions.cell_rect(row, 3).center());
-    QTest::mouseDClick(sessions.viewport(), Qt::LeftButton, {}, place);
+    clerk_.double_click_cell(sessions, row, 3);
     must(kurvo_.FEtud_Tablo2->text(board_row(), 3).toInt() == booked_students - 1, u"the session is not cancelled"_s);
 }
 

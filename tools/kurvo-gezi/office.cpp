@@ -20,9 +20,17 @@ constexpr std::size_t enough_instalments = 4;
 
 // A quarter of a second passes at each look at the clock: a payment waits for a second that is still free, and two
 // walks see the same times.
+std::function<QDateTime()> moving_clock(const QDateTime& from) {
+    return [from, looks = 0]() mutable { return from.addMSecs(250 * looks++); };
+}
+
 QDateTime present_moment() {
-    static int looks = 0;
-    return QDateTime(sample::school_year(school::default_term).today, QTime(10, 15)).addMSecs(250 * looks++);
+    return QDateTime(sample::school_year(school::default_term).today, QTime(10, 15));
+}
+
+void see_drives(const QString& drives, const QString& papers) {
+    qputenv("KURVO_DRIVES", drives.toUtf8());
+    qputenv("KURVO_PRINTER", "pdf:" + papers.toUtf8());
 }
 
 void make_school() {
@@ -65,36 +73,43 @@ void put_a_picture_before_the_camera() {
     if (!photos.isEmpty()) qputenv("KURVO_CAMERA", paths::native(folder + photos.front()).toUtf8());
 }
 
-void hand_over() {
+void hand_over(const QString& root, const QString& user) {
     launch::HandOver values;
-    values.version = school::version_of(school::default_root);
-    values.root = school::default_root;
+    values.version = school::version_of(root);
+    values.root = root;
     values.school = u"ÖZEL KURVO DERSHANESİ"_s;
     values.term = school::default_term;
     values.hide_archived = u"0"_s;
     values.rights = u"111111"_s;
-    values.user = sample::user_code;
-    values.photos = school::photo_folder(school::default_root);
+    values.user = user;
+    values.photos = school::photo_folder(root);
     launch::prepare(values);
 }
 
 }  // namespace
 
-Office::Office(const QString& papers) : clock_(present_moment) {
-    qputenv("KURVO_DRIVES", drives_.path().toUtf8());
-    qputenv("KURVO_PRINTER", "pdf:" + papers.toUtf8());
+Office::Office(const QString& papers)
+    : own_drives_(std::make_unique<QTemporaryDir>()),
+      root_(school::default_root),
+      clock_(moving_clock(present_moment())) {
+    see_drives(own_drives_->path(), papers);
     make_school();
     draw_invoice_form();
     put_a_picture_before_the_camera();
-    hand_over();
+    hand_over(root_, sample::user_code);
+}
+
+Office::Office(const Workstation& desk) : root_(desk.root), clock_(moving_clock(desk.opens)) {
+    see_drives(desk.drives, desk.papers);
+    hand_over(root_, desk.user);
 }
 
 QString Office::term_file() const {
-    return school::term_file(school::default_root, school::default_term);
+    return school::term_file(root_, school::default_term);
 }
 
 QString Office::reference_file() const {
-    return school::reference_file(school::default_root);
+    return school::reference_file(root_);
 }
 
 std::vector<Office::Person> Office::students() const {

@@ -1,4 +1,4 @@
-// The demo school that the walks work on: in a temporary folder of drives, on the sample's present day.
+// The office that a clerk works in: a demo school that is made for the occasion, or a desk at a school that exists.
 #pragma once
 
 #include "platform/clock.h"
@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 struct OpenInstalment {
@@ -14,10 +15,22 @@ struct OpenInstalment {
     std::int64_t open = 0;  // whole currency units
 };
 
-// Sets KURVO_DRIVES and KURVO_PRINTER for the process; papers become PDF files in `papers`.
+// One workstation of a school.
+struct Workstation {
+    QString drives;   // native folder of the drives that this workstation sees
+    QString root;     // of the school, "p:\\okul\\"
+    QString user;     // who signs on
+    QDateTime opens;  // when the clerk begins; the clock moves from there, a quarter of a second a look
+    QString papers;   // native folder of the PDF files
+};
+
+// Sets KURVO_DRIVES and KURVO_PRINTER for the process, its clock, and the hand-over file of one start.
 class Office {
 public:
+    // A demo school in a temporary folder of drives, on the sample's present day; papers become PDF files in `papers`.
     explicit Office(const QString& papers);
+    // A desk at a school that exists, in its default term.
+    explicit Office(const Workstation& desk);
 
     // What a walk compares the screen with, read from the files and not from the program.
     struct Person {
@@ -33,6 +46,7 @@ public:
     QString reference_file() const;
 
 private:
-    QTemporaryDir drives_;
+    std::unique_ptr<QTemporaryDir> own_drives_;  // of the demo school
+    QString root_;
     clock_source::Override clock_;
 };

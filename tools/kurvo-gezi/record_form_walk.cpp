@@ -31,7 +31,6 @@ public:
 
 private:
     KurvoYeni& form();
-    void choose(QComboBox* list, int position);
     void must_print(int papers);
 
     Clerk& clerk_;
@@ -45,15 +44,6 @@ KurvoYeni& Enrolment::form() {
     KurvoYeni* open = clerk_.program().record_form();
     must(open != nullptr, u"the record form is not open"_s);
     return *open;
-}
-
-// By the keyboard, as a clerk does without leaving the row of boxes.
-void Enrolment::choose(QComboBox* list, int position) {
-    must(list->isVisible() && list->isEnabled(), list->objectName() + u" cannot be used"_s);
-    list->setFocus();
-    clerk_.key(Qt::Key_Home);
-    for (int i = 0; i < position; ++i) clerk_.key(Qt::Key_Down);
-    must(list->currentIndex() == position, list->objectName() + u" does not take the choice"_s);
 }
 
 void Enrolment::must_print(int papers) {
@@ -88,8 +78,8 @@ void Enrolment::fill() {
     clerk_.type(form().VELI, u"HÜSEYİN AVNİ ÖZGÜRLÜOĞLU"_s);
     clerk_.type(form().ADRES1, u"BAHÇELİEVLER MAH. ÇIĞIR SOK. NO:12"_s);
     clerk_.type(form().AILCE, u"NİLÜFER"_s);
-    choose(form().SNF, 2);
-    choose(form().DIN, 11);
+    clerk_.choose(form().SNF, 2);
+    clerk_.choose(form().DIN, 11);
     clerk_.type(form().KTUTAR, u"25000"_s);
 }
 
