@@ -16,14 +16,10 @@ if(UNIX AND NOT APPLE)
     install(FILES ${packaging}/icons/kurvo-${size}.png
       DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps RENAME ${id}.png)
   endforeach()
-  foreach(language "" "tr/")
-    file(GLOB pages CONFIGURE_DEPENDS ${packaging}/man/${language}*.1)
-    install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_MANDIR}/${language}man1)
-  endforeach()
+  install(DIRECTORY ${packaging}/man/ DESTINATION ${CMAKE_INSTALL_MANDIR})
   install(FILES ${packaging}/copyright DESTINATION ${guides})
   # The guides for those who use it and set it up; not what developers measure.
-  install(DIRECTORY docs/ DESTINATION ${guides}
-    PATTERN benchmarks.md EXCLUDE)
+  install(DIRECTORY docs/ DESTINATION ${guides} PATTERN benchmarks.md EXCLUDE)
 
   include(${packaging}/debian/package.cmake)
 endif()

@@ -38,8 +38,11 @@ QString text_of_file(const QByteArray& file) {
     return utf8.hasError() ? code_page::decode(file) : text;
 }
 
+// A page of the web or another XML file, a letter and a paper may well be plain text from end to end.
 bool is_table_text(QStringView text) {
-    if (text.trimmed().startsWith(u'<')) return false;  // a page of the web or another XML file under this name
+    const QStringView content = text.trimmed();
+    for (const QStringView other_kind : {u"<", u"{\\rtf", u"%PDF-"})
+        if (content.startsWith(other_kind)) return false;
     return std::ranges::none_of(text, [](QChar letter) {
         return letter < u' ' && letter != u'\t' && letter != u'\n' && letter != u'\r' && letter != u'\f';
     });

@@ -52,7 +52,7 @@ QString active_sheet(Package& package, const QString& book, const Relations& rel
         if (xml.is(u"workbookView")) active = xml.attribute(u"activeTab").toInt();
         if (xml.is(u"sheet")) sheets << xml.attribute(u"id");
     }
-    if (sheets.isEmpty()) throw damaged();
+    if (sheets.isEmpty()) throw no_workbook();  // a letter or a presentation comes in the same package
     const auto sheet = relations.constFind(sheets.value(active, sheets.first()));
     if (sheet == relations.cend()) throw damaged();
     if (!sheet->type.endsWith(u"/worksheet")) throw no_table();

@@ -128,6 +128,8 @@ private slots:
         locked.push_back({"META-INF/manifest.xml", "<m><file-entry><encryption-data/></file-entry></m>"});
         Parts chart = xlsx({});
         chart[2].second.replace("activeTab='1'", "");
+        Parts letter = xlsx({});
+        letter[2].second = "<w:document xmlns:w='w'><w:body/></w:document>";
         const QByteArray whole = package(xlsx(xlsx_rows)), old = compound_file("Workbook", excel_97());
         const QByteArray deep = QByteArray("<g>").repeated(100'000) + QByteArray("</g>").repeated(100'000);
         const QByteArray row = "<t:table t:name='İki'><t:table-row t:number-rows-repeated='1048576'><t:table-cell ";
@@ -136,6 +138,9 @@ private slots:
             {"\x89PNG\r\n\x1A\n\0\0\0\rIHDR", "çalışma kitabı değil"},
             {"<html><table>", "çalışma kitabı değil"},
             {package({{"word/document.xml", "<w/>"}}), "çalışma kitabı değil"},
+            {package(letter), "çalışma kitabı değil"},
+            {"{\\rtf1 Ali;Can;1}", "çalışma kitabı değil"},
+            {"%PDF-1.4\n1 0 obj", "çalışma kitabı değil"},
             {compound_file("WordDocument", "x"), "çalışma kitabı değil"},
             {package(chart), "tablo yok"},
             {whole.left(whole.size() - 40), "bozuk ya da eksik"},

@@ -58,6 +58,23 @@ private slots:
             QVERIFY2(one.words.isEmpty(), qPrintable(one.place + one.words));
     }
 
+    void damaged_or_held_files_are_told() {
+        School school;
+        school.student(1250).name("AYŞE");
+        backup::take(school.data_root(), place);
+        {
+            auto held = store::OpenDatabase(school.term_file());
+            const store::WriteScope scope(held);
+            QVERIFY(refusal([&] { backup::put_back(place, school.data_root()); }).contains("geri yüklenmiş olabilir"));
+        }
+        QByteArray bytes = school.drives.bytes("c/okul/data/2026ogr.mdb");
+        bytes.replace(4096, 8192, QByteArray(8192, '\xAA'));
+        school.drives.put("c/okul/data/2026ogr.mdb", bytes);
+        QVERIFY(refusal([&] { backup::take(school.data_root(), "d:\\salı"); }).contains("bozuk"));
+        QVERIFY(!QFile::exists(school.drives.path("d/salı")) && !QFile::exists(school.drives.path("d/salı.yarim")));
+        QVERIFY(refusal([&] { backup::take(school.data_root(), {}); }).contains("verilmedi"));
+    }
+
     void gives_back_what_was_there() {
         School school;
         school.student(1250).name("AYŞE");

@@ -88,6 +88,7 @@ Taken copy_all(const QString& from, const QString& to, const QStringList& databa
 }
 
 void require_place(const QString& root, const QString& target, const QString& name) {
+    if (name.trimmed().isEmpty()) refuse(u"Yedeğin klasörü verilmedi."_s);
     const QFileInfo place(target);
     if (place.exists() && !(place.isDir() && QDir(target).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot)))
         refuse(u"Yedeğin klasörü boş değil: "_s + name);
@@ -104,6 +105,13 @@ bool is_sound(const QString& file) {
     }
 }
 
+// A damage is copied as faithfully as the rows, and such a backup could not be put back.
+void require_sound(const QString& folder, const QStringList& databases) {
+    for (const QString& name : databases)
+        if (!is_sound(paths::office_name(folder) + u'\\' + name))
+            refuse(u"Okulun bir dosyası bozuk, yedek alınmadı: "_s + name);
+}
+
 void set_damaged_aside(const QString& file) {
     if (paths::exists(file) && !is_sound(file)) store::set_aside(file);
 }
@@ -116,7 +124,9 @@ Taken take(const QString& root, const QString& target) {
     require_place(from, to, target);
     QDir(unfinished).removeRecursively();  // what a cut has left
     try {
-        const Taken taken = copy_all(from, unfinished, databases_of(root));
+        const QStringList databases = databases_of(root);
+        const Taken taken = copy_all(from, unfinished, databases);
+        require_sound(unfinished, databases);
         text_file::write_lines(paths::office_name(unfinished) + u'\\' + note_file,
                                {note_heading, clock_source::now().toString(u"dd.MM.yyyy HH:mm"_s), root});
         QDir().rmdir(to);
@@ -141,7 +151,12 @@ QStringList put_back(const QString& source, const QString& root) {
     taken_at(source);
     const QStringList databases = databases_of(source);
     for (const QString& name : databases) set_damaged_aside(school::folder(root) + name);
-    copy_all(native_folder(source), native_folder(root), databases);
+    try {
+        copy_all(native_folder(source), native_folder(root), databases);
+    } catch (const std::runtime_error& failure) {
+        refuse(QString::fromUtf8(failure.what()) +
+               u"\nOkulun dosyalarının bir bölümü geri yüklenmiş olabilir; bütün programları kapatıp yineleyin."_s);
+    }
     QStringList left;
     for (const QString& name : databases_of(root))
         if (!databases.contains(name)) left.append(name);

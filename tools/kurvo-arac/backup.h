@@ -14,7 +14,7 @@ struct Taken {
 };
 
 // Copies everything under `root` (databases, parameter files, photos) to the folder `target`, which must be missing or
-// empty and lie outside the school. The folder bears its name only once it is complete.
+// empty and lie outside the school. The folder bears its name only once it is complete. A damaged database is refused.
 Taken take(const QString& root, const QString& target);
 
 // When the backup in this folder was taken, for the eye. Throws where it is none or one of its databases is damaged.
@@ -22,6 +22,7 @@ QString taken_at(const QString& source);
 
 // Gives the school under `root` the content of the backup; a database that is in use gets it as one write. A damaged
 // database of the school is set aside as "X.bozuk". Returns the databases that the backup does not hold: they stay.
+// After a failure some files are those of the backup already; the same call again completes them.
 QStringList put_back(const QString& source, const QString& root);
 
 }  // namespace backup
