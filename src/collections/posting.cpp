@@ -46,7 +46,15 @@ void Posting::store_collection() {
     const QString tarih = kurvo_.FTahsil_TARIH->key();
     const QString ksaat = add_kasa_row(reference, tarih);
     reference.Close();
-    add_payments(tarih, ksaat);
+    try {
+        add_payments(tarih, ksaat);
+    } catch (const std::runtime_error& failure) {
+        // Without a word the clerk would collect once more, and the money would be in the cash book twice.
+        const QString saat = ksaat.left(2) + u':' + ksaat.mid(2, 2) + u':' + ksaat.mid(4);
+        throw std::runtime_error(QStringLiteral("Kasa kaydı yazıldı (%1 %2), fakat taksitlere tamamı işlenemedi.\n%3")
+                                     .arg(dates::shown(tarih), saat, QString::fromUtf8(failure.what()))
+                                     .toStdString());
+    }
 }
 
 // The number is taken before the rows are written: a failure loses a number and never uses one twice.

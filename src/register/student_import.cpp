@@ -87,6 +87,7 @@ void StudentImport::CommandAKTAR_Click() {
     const WaitCursor wait;
     if (kurvo_.ASayrac->text().isEmpty()) kurvo_.ASayrac->setText(u" "_s);
     if (const auto book = open_workbook()) run(*book);
+    kurvo_.ListA->scrollToBottom();
 }
 
 // None where the file cannot be read; the list tells why.
@@ -117,7 +118,6 @@ void StudentImport::run(const Workbook& book) {
     }
     tell(u"Okunan kayıt sayısı : "_s + QString::number(read_));
     tell(u"Yazılan kayıt sayısı : "_s + QString::number(written_.size()));
-    kurvo_.ListA->scrollToBottom();
     list_.listeyi_yenile();
 }
 

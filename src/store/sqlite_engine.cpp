@@ -62,6 +62,8 @@ void SqliteEngine::connect(const QString& native_path) {
 
 void SqliteEngine::fail(int code, std::string_view table) const {
     if (code == SQLITE_CONSTRAINT_UNIQUE) throw messages::outcome(Errc::duplicate_key, name_, table);
+    if (code == SQLITE_READONLY_DBMOVED)
+        throw messages::error(u"Dosya yerinde değil; taşınmış, silinmiş ya da bağlantı kopmuş", name_, table);
     switch (code & 0xFF) {
         case SQLITE_BUSY:
         case SQLITE_LOCKED:

@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 #include <QThread>
 
+#include <sys/resource.h>
+
 #include <numeric>
 #include <random>
 
@@ -16,7 +18,7 @@ namespace {
 
 const bool is_long = qEnvironmentVariableIsSet("KURVO_LONG_TESTS");
 const QString beginning = QString::number(QDateTime::currentMSecsSinceEpoch());
-constexpr int student = 1250, amount = 700, batch = 150, for_ever = 1000000;
+constexpr int student = 1250, amount = 300, batch = 150, for_ever = 1000000;
 
 QStringList arguments(const QString& act, int how_much, int times, int speed = 100) {
     const QStringList numbers{QString::number(student), QString::number(how_much), QString::number(times)};
@@ -60,7 +62,7 @@ QString rows_of_student(const School& school) {
 void fill(School& school) {
     school.drives.put("c/okul/data/KasaTip.txt", "TL\r\n");
     school.lesson("MT", "Matematik").teacher(5, "ÖMER IŞIK");
-    School::Student ayse = school.student(student).name("AYŞE");
+    School::Student ayse = school.student(student).name("AYŞE").set("KTUTAR", 20000);
     for (int day = 10; day < 30; ++day) ayse.instalment("202701" + QString::number(day), 1000);
 }
 
@@ -113,9 +115,9 @@ struct TwoDesks {
 // An office at the moment of a fault.
 struct Office {
     Office() { fill(school); }
-    void spoil(const QString& file) {
-        spoilt = file, sound = school.drives.bytes(file);
-        school.drives.put(file, QByteArray(sound).replace(4096, 8192, QByteArray(8192, 'x')));
+    void spoil(const QString& below) {
+        spoilt = below, sound = school.drives.bytes(below);
+        school.drives.put(below, sound.left(4096) + QByteArray(sound.size() - 4096, 'x'));
     }
     void lock() {
         file = store::OpenDatabase(school.term_file());
@@ -125,7 +127,8 @@ struct Office {
     void let_write(bool allowed) const {
         const QFile::Permissions read = QFile::ReadOwner, write = allowed ? QFile::WriteOwner : QFile::Permissions();
         QDir data(school.drives.path("c/okul/data"));
-        for (const QString& name : data.entryList(QDir::Files)) QFile::setPermissions(data.filePath(name), read | write);
+        for (const QString& name : data.entryList(QDir::Files))
+            QFile::setPermissions(data.filePath(name), read | write);
         QFile::setPermissions(data.path(), read | write | QFile::ExeOwner);
     }
     void move(const QString& from, const QString& to) const { QDir(school.drives.path("c/okul")).rename(from, to); }
@@ -146,10 +149,8 @@ struct Office {
 struct Fault {
     const char* name;
     const char* act;
-    void (*before_start)(Office&);
-    void (*at_work)(Office&);
-    QByteArray word;  // to the workstation
-    QString told;     // a pattern
+    void (*at_work)(Office&, const Desk&);  // nullptr: the term's file is damaged before the start
+    QString told;                           // a pattern
 };
 
 }  // namespace
@@ -169,13 +170,13 @@ private slots:
         constexpr unsigned seed = 20261124;
         qInfo("moments of the kills from seed %u", seed);
         std::mt19937 random(seed);
-        for (int kill = 0; kill < (is_long ? 75 : 5); ++kill) {
+        for (int kill = 0; kill < (is_long ? 75 : 10); ++kill) {
             School school;
             if (act == "post" || act == "renumber") fill(school);
             if (act == "renumber") work_for_a_month(school);
             const QString before = rows_of_student(school);
             Desk desk(school, arguments(act, act == "import" ? batch : amount, for_ever));
-            QCOMPARE(desk.begin(), "");
+            desk.begin();
             desk.go_on();
             QThread::msleep(random() % 150);
             desk.kill();
@@ -189,30 +190,37 @@ private slots:
     }
 
     void fault_is_told_and_harms_no_row() {
-        const auto nothing = [](Office&) {};
-        const auto move_away = [](Office& office) { office.move("data", "gone"); };
-        const auto forbid = [](Office& office) { office.let_write(false); };
-        const QString full = "Disk dolu|aygıt hatası", bad = "Dosya bozuk: c:.okul.data.", no = "yazma izni yok: c:.okul";
+        const auto fill_disk = [](Office&, const Desk& desk) {
+            const rlimit limit{8192, 8192};
+            prlimit(static_cast<pid_t>(desk.pid()), RLIMIT_FSIZE, &limit, nullptr);
+        };
+        const auto move_away = [](Office& office, const Desk&) { office.move("data", "gone"); };
+        const auto forbid = [](Office& office, const Desk&) { office.let_write(false); };
+        const auto damage = [](Office& office, const Desk&) { office.spoil("c/okul/data/Bilgi.mdb"); };
+        const auto lock = [](Office& office, const Desk&) { office.lock(); };
+        const QString full = "Disk dolu|aygıt hatası", bad = "Dosya bozuk: c:.okul.data.",
+                      no = "yazma izni yok: c:.okul";
         const Fault faults[]{
-            {"full disk", "post", nothing, nothing, "full 8192", full},
-            {"full disk", "save", nothing, nothing, "full 8192", full},
-            {"full disk", "renumber", nothing, nothing, "full 8192", full},
-            {"full disk", "import", nothing, nothing, "full 8192", "(" + full + ").*Yazılan kayıt sayısı : 0"},
-            {"folder gone", "post", nothing, move_away, "on", "Dosya bulunamadı: c:.okul.data.Bilgi.mdb"},
-            {"folder gone", "save", nothing, move_away, "on", "Dosya yerinde değil.*: c:.okul.data.2026ogr.mdb"},
-            {"folder gone", "import", nothing, move_away, "on", "Dosya yerinde değil.*Yazılan kayıt sayısı : 0"},
-            {"read-only", "post", forbid, nothing, "on", no},
-            {"read-only", "save", forbid, nothing, "on", no},
-            {"damaged", "save", [](Office& o) { o.spoil("c/okul/data/2026ogr.mdb"); }, nothing, "on", bad + "2026ogr"},
-            {"damaged", "post", nothing, [](Office& o) { o.spoil("c/okul/data/Bilgi.mdb"); }, "on", bad + "Bilgi"},
-            {"locked", "post", nothing, [](Office& o) { o.lock(); }, "on", "başka bir iş istasyonu tarafından kilitli"}};
+            {"full disk", "post", fill_disk, full},
+            {"full disk", "save", fill_disk, full},
+            {"full disk", "renumber", fill_disk, full},
+            {"full disk", "import", fill_disk, "(" + full + ").*Yazılan kayıt sayısı : 0"},
+            {"folder gone", "post", move_away, "Dosya bulunamadı: c:.okul.data.Bilgi.mdb"},
+            {"folder gone", "save", move_away, "Dosya bulunamadı: c:.okul.data.Bilgi.mdb"},
+            {"folder gone", "import", move_away,
+             "Dosya yerinde değil.*c:.okul.data.2026ogr.mdb.*Yazılan kayıt sayısı : 0"},
+            {"read-only", "post", forbid, no},
+            {"read-only", "save", forbid, no},
+            {"damaged", "save", nullptr, bad + "2026ogr"},
+            {"damaged", "post", damage, bad + "Bilgi"},
+            {"locked", "post", lock, "(?s)Kasa kaydı yazıldı.*başka bir iş istasyonu tarafından kilitli"}};
         for (const Fault& fault : faults) {
             Office office;
-            fault.before_start(office);
+            if (fault.at_work == nullptr) office.spoil("c/okul/data/2026ogr.mdb");
             Desk desk(office.school, arguments(fault.act, fault.act == QString("import") ? batch : amount, 1));
             QString said = desk.begin();
-            fault.at_work(office);
-            desk.go_on(fault.word);
+            if (fault.at_work != nullptr) fault.at_work(office, desk);
+            desk.go_on();
             said += desk.rest();
             office.mend();
             const QString where = QString(fault.name) + ", " + fault.act + ": " + said;
@@ -227,7 +235,8 @@ private slots:
     }
 
 private:
-    // A row of the cash book comes first: at the last posting some payments of it may be missing, which the audit tells.
+    // A row of the cash book comes first: at the last posting some payments of it may be missing, which the audit
+    // tells.
     static void check_posted(const School& school, int done) {
         const int cash = static_cast<int>(school.rows("Kasa", {"SAAT"}).size());
         const int paid = sum(school, "Tahsilat", "ODENEN");
@@ -269,13 +278,13 @@ private:
     static void check_renumbered(const School& school, QString before) {
         const bool is_back = school.rows("Ogrenci", {"ONO"}) == QStringList("1250");
         const QString ahead = is_back ? "1251" : "1250";
-        const QRegularExpression allowed("ONO (1250|1251).*(böyle bir öğrenci yok|ödenen)|kasa kaydının öğrencisi yok: " +
-                                         ahead);
+        const QRegularExpression allowed(
+            "ONO (1250|1251).*(böyle bir öğrenci yok|ödenen|taksiti yok)|kasa kaydının öğrencisi yok: " + ahead);
         for (const QString& one : findings(school)) QVERIFY2(allowed.match(one).hasMatch(), qPrintable(one));
         Desk desk(school, arguments("renumber", 0, 1));
         desk.begin();
         desk.go_on();
-        QCOMPARE(desk.rest(), "done \n");
+        QVERIFY(desk.rest().contains("done"));
         QCOMPARE(rows_of_student(school), before.replace("1250", ahead));
         QCOMPARE(findings(school), QStringList());
     }

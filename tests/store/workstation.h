@@ -1,4 +1,5 @@
-// A second workstation: this test program started again with a role, on the drives of the test.
+// A second workstation, on the drives of the test: this test program started again with a role, or a program of its
+// own.
 #pragma once
 
 #include <QCoreApplication>
@@ -10,6 +11,11 @@ public:
         process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process_.start(QCoreApplication::applicationFilePath(), {"--workstation", role, file});
     }
+    // Another program; what it says of its failures comes with the rest.
+    Workstation(const QString& program, const QStringList& arguments) {
+        process_.setProcessChannelMode(QProcess::MergedChannels);
+        process_.start(program, arguments);
+    }
     ~Workstation() { kill(); }
 
     QString hear() {
@@ -18,6 +24,12 @@ public:
     }
     void kill() { process_.kill(), process_.waitForFinished(patience); }
     void go_on() { process_.write("on\n"), process_.waitForBytesWritten(patience); }
+    qint64 pid() const { return process_.processId(); }
+    // What it still says until its end.
+    QString rest() {
+        process_.waitForFinished(patience);
+        return QString::fromUtf8(process_.readAll());
+    }
     // Lets it go on and waits for its end; its exit status.
     int finish() {
         go_on();

@@ -86,7 +86,9 @@ private slots:
              "UYARI " + term +
                  "Tahsilat, ONO 1250, VADE 20261001, TARIH 20261005, SAAT 101500: tahsilatın taksiti yok"},
             {"cash gone", [](Office& o) { o.change("Tahsilat", "KSAAT", "101501"); },
-             "UYARI " + term +
+             "UYARI Bilgi.mdb, Kasa, TARIH 20261005, SAAT 101500: kasaya giren 400, tahsilatların toplamı 0: 1250  "
+             "AYŞE #2026\nUYARI " +
+                 term +
                  "Tahsilat, ONO 1250, VADE 20261001, TARIH 20261005, SAAT 101500: tahsilatın kasa kaydı yok: KSAAT "
                  "101501"},
             {"student gone",

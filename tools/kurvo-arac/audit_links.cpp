@@ -75,18 +75,48 @@ void payments_without_cash_row(Books& books, const Tell& tell) {
     });
 }
 
-// A collection's cash row begins with the student's number and ends with " #" and the term.
-void cash_rows_without_student(Books& books, const Tell& tell) {
+// Hands over each row of the cash book that a collection in a known term has left, with that term. Its text begins with
+// the student's number and ends with " #" and the term.
+template <typename Handle>
+void each_collection(Books& books, Handle handle) {
     if (books.kind != FileKind::reference) return;
-    std::map<QString, Recordset> students;
-    for (auto& [term, file] : books.terms) students.emplace(term, opened(file, "Ogrenci", "ONOX"));
     Recordset cash = books.file.OpenRecordset("Kasa");
     store::scan_all(cash, [&] {
         if (cash["KOD"].text() != u"1") return;
         const QString text = cash["ACK"].text();
-        const auto of_term = students.find(text.mid(text.lastIndexOf(u'#') + 1));
-        if (of_term == students.end() || holds(of_term->second, {numbers::val(text)})) return;
-        tell(cash, u"kasa kaydının öğrencisi yok: %1"_s.arg(text));
+        const QString term = text.mid(text.lastIndexOf(u'#') + 1);
+        if (books.terms.contains(term)) handle(cash, text, term);
+    });
+}
+
+void cash_rows_without_student(Books& books, const Tell& tell) {
+    std::map<QString, Recordset> students;
+    for (auto& [term, file] : books.terms) students.emplace(term, opened(file, "Ogrenci", "ONOX"));
+    each_collection(books, [&](Recordset& cash, const QString& text, const QString& term) {
+        if (!holds(students.at(term), {numbers::val(text)})) tell(cash, u"kasa kaydının öğrencisi yok: %1"_s.arg(text));
+    });
+}
+
+// A collection that was cut off behind its cash row, or between two payments; what was paid in another currency can
+// only be wholly missing. A student who is gone took the payments along.
+void cash_rows_without_payments(Books& books, const Tell& tell) {
+    std::map<QString, std::map<QString, double>> paid;  // term -> date and time of the cash row -> sum
+    std::map<QString, Recordset> students;
+    for (auto& [term, file] : books.terms) {
+        students.emplace(term, opened(file, "Ogrenci", "ONOX"));
+        Recordset payments = file.OpenRecordset("Tahsilat");
+        store::scan_all(payments, [&, &sums = paid[term]] {
+            sums[payments["TARIH"].text() + payments["KSAAT"].text()] += payments["ODENEN"].number();
+        });
+    }
+    each_collection(books, [&](Recordset& cash, const QString& text, const QString& term) {
+        const auto sum = paid[term].find(cash["TARIH"].text() + cash["SAAT"].text());
+        const double stored = cash["TUTAR"].number(), found = sum == paid[term].end() ? 0 : sum->second;
+        const bool all_there =
+            cash["TIP"].text() == u"TL" ? std::abs(stored - found) <= smallest_difference : found > 0;
+        if (all_there || !holds(students.at(term), {numbers::val(text)})) return;
+        tell(cash, u"kasaya giren %1, tahsilatların toplamı %2: %3"_s.arg(numbers::plain(stored), numbers::plain(found),
+                                                                          text));
     });
 }
 
@@ -111,9 +141,13 @@ void codes_without_row(Books& books, const Tell& tell) {
     }
 }
 
-constexpr Check checks[] = {{true, rows_without_student},         {true, paid_sums},
-                            {false, payments_without_instalment}, {false, payments_without_cash_row},
-                            {false, cash_rows_without_student},   {false, codes_without_row}};
+constexpr Check checks[] = {{true, rows_without_student},
+                            {true, paid_sums},
+                            {false, payments_without_instalment},
+                            {false, payments_without_cash_row},
+                            {false, cash_rows_without_student},
+                            {false, cash_rows_without_payments},
+                            {false, codes_without_row}};
 
 }  // namespace
 
