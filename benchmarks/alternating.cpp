@@ -9,8 +9,6 @@ namespace bench {
 
 namespace {
 
-constexpr int runs = 9;  // odd, so that the median is a run
-
 Seconds median(std::vector<Seconds> figures) {
     const auto middle = figures.begin() + static_cast<std::ptrdiff_t>(figures.size() / 2);
     std::nth_element(figures.begin(), middle, figures.end());
@@ -23,11 +21,6 @@ std::string formatted(const char* pattern, double value) {
     return text;
 }
 
-std::string in_words(Seconds time) {
-    if (time < 1e-3) return formatted("%.2f us", time * 1e6);
-    return time < 1 ? formatted("%.2f ms", time * 1e3) : formatted("%.2f s", time);
-}
-
 }  // namespace
 
 Seconds timed(const std::function<void()>& work, int times) {
@@ -36,9 +29,21 @@ Seconds timed(const std::function<void()>& work, int times) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count() / times;
 }
 
+Seconds median_time(const Run& run, int runs) {
+    run();
+    std::vector<Seconds> figures;
+    for (int i = 0; i < runs; ++i) figures.push_back(run());
+    return median(std::move(figures));
+}
+
+std::string in_words(Seconds time) {
+    if (time < 1e-3) return formatted("%.2f us", time * 1e6);
+    return time < 1 ? formatted("%.2f ms", time * 1e3) : formatted("%.2f s", time);
+}
+
 Table::Table(std::string filter) : filter_(std::move(filter)) {}
 
-void Table::compare(const std::string& act, double allowed, const Run& figure, const Run& floor) {
+void Table::compare(const std::string& act, double allowed, const Run& figure, const Run& floor, int runs) {
     if (!wants(act)) return;
     figure();
     floor();
@@ -57,10 +62,21 @@ void Table::limit(const std::string& what, double figure, double allowed, const 
           figure <= allowed);
 }
 
-void Table::print(const std::string& act, const std::string& figure, const std::string& floor, double ratio,
-                  const std::string& allowed, bool holds) {
+void Table::leave_out(const std::string& act, const std::string& why) {
+    if (!wants(act)) return;
+    begin();
+    std::printf("%-52s left out: %s\n", act.c_str(), why.c_str());
+    std::fflush(stdout);
+}
+
+void Table::begin() {
     if (!begun_) std::printf("%-52s %12s %12s %7s %10s\n", "act", "figure", "floor", "ratio", "allowed");
     begun_ = true;
+}
+
+void Table::print(const std::string& act, const std::string& figure, const std::string& floor, double ratio,
+                  const std::string& allowed, bool holds) {
+    begin();
     std::printf("%-52s %12s %12s %7.2f %10s  %s\n", act.c_str(), figure.c_str(), floor.c_str(), ratio, allowed.c_str(),
                 holds ? "ok" : "over");
     std::fflush(stdout);

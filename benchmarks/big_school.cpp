@@ -22,9 +22,19 @@ void use_drives(const fs::path& folder) {
     qputenv("KURVO_DRIVES", QByteArray::fromStdString(folder.string()));
 }
 
+sample::Scale scale_of(int students) {
+    const bool usual = students == BigSchool::usual_students;
+    sample::Scale scale;
+    scale.students = students;
+    scale.instalments = 10;
+    scale.absences = usual ? 100 : 4;
+    scale.photos = usual ? 100 : 0;
+    return scale;
+}
+
 // Gets its name at the end only, so that one that was cut off is not taken for whole.
-void make(const fs::path& folder) {
-    std::fprintf(stderr, "making the school of %d students in %s ...\n", BigSchool::students, folder.c_str());
+void make(const fs::path& folder, const sample::Scale& scale) {
+    std::fprintf(stderr, "making the school of %d students in %s ...\n", scale.students, folder.c_str());
     fs::path unfinished = folder;
     unfinished += ".unfinished";
     fs::remove_all(unfinished);
@@ -32,11 +42,6 @@ void make(const fs::path& folder) {
     use_drives(unfinished);
     school::create(BigSchool::root, {school::default_term});
     sample::fill_reference(BigSchool::root);
-    sample::Scale scale;
-    scale.students = BigSchool::students;
-    scale.instalments = 10;
-    scale.absences = 100;
-    scale.photos = 100;
     sample::fill_term(BigSchool::root, school::default_term, seed, scale);
     fs::rename(unfinished, folder);
 }
@@ -52,9 +57,11 @@ std::vector<double> shuffled_numbers() {
 
 }  // namespace
 
-BigSchool::BigSchool(const QString& build_folder) : drives_(build_folder + QStringLiteral("/bench-run-XXXXXX")) {
-    const fs::path kept = fs::path(build_folder.toStdString()) / "bench-school";
-    if (!fs::exists(kept)) make(kept);
+BigSchool::BigSchool(const QString& build_folder, int students)
+    : drives_(build_folder + QStringLiteral("/bench-run-XXXXXX")) {
+    const std::string size = students == usual_students ? "" : "-" + std::to_string(students);
+    const fs::path kept = fs::path(build_folder.toStdString()) / ("bench-school" + size);
+    if (!fs::exists(kept)) make(kept, scale_of(students));
     const fs::path drives = drives_.path().toStdString();
     fs::copy(kept, drives, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     use_drives(drives);

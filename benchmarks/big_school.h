@@ -12,13 +12,13 @@ namespace bench {
 // Sets KURVO_DRIVES and KURVO_PRINTER for as long as it lives.
 class BigSchool {
 public:
-    // `build_folder` is native.
-    explicit BigSchool(const QString& build_folder);
+    // `build_folder` is native. A school of another number of students has plans, but few absences and no photographs.
+    explicit BigSchool(const QString& build_folder, int students = usual_students);
     ~BigSchool();
     BigSchool(const BigSchool&) = delete;
     BigSchool& operator=(const BigSchool&) = delete;
 
-    static constexpr int students = 20'000;
+    static constexpr int usual_students = 20'000;
     inline static const QString root = QStringLiteral("c:\\okul\\");
     inline static const QString term_file = QStringLiteral("c:\\okul\\data\\2026ogr.mdb");
     inline static const QString reference_file = QStringLiteral("c:\\okul\\data\\Bilgi.mdb");

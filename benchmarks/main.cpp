@@ -1,4 +1,5 @@
 // kurvo-bench [PART OF A ROW'S NAME]: prints what the program takes for its acts beside the least they could take.
+// kurvo-bench growth: prints how they grow with the number of students.
 #include "benches.h"
 #include "forms/look.h"
 #include "platform/slots.h"
@@ -30,11 +31,18 @@ int main(int argc, char** argv) {
         std::_Exit(1);
     });
     try {
-        bench::Table table(argc > 1 ? argv[1] : "");
-        const bench::BigSchool school(QApplication::applicationDirPath() + QStringLiteral("/.."));
+        const std::string chosen = argc > 1 ? argv[1] : "";
+        const QString build_folder = QApplication::applicationDirPath() + QStringLiteral("/..");
+        if (chosen == "growth") {
+            bench::measure_growth(build_folder);
+            return 0;
+        }
+        bench::Table table(chosen);
+        const bench::BigSchool school(build_folder);
         for (const auto measure : {bench::measure_store, bench::measure_list, bench::measure_card, bench::measure_start,
                                    bench::measure_posting, bench::measure_search, bench::measure_record_form,
-                                   bench::measure_renumbering, bench::measure_rich_text, bench::measure_dossier})
+                                   bench::measure_renumbering, bench::measure_rich_text, bench::measure_dossier,
+                                   bench::measure_import, bench::measure_peers, bench::measure_panels})
             measure(table, school);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());

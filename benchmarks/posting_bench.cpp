@@ -1,95 +1,15 @@
 // Posting a payment on six instalments with an invoice number, the paper left out. A clock that moves at each look
 // leaves out the wait for a free second, too.
 #include "benches.h"
-#include "collections/collection_screen.h"
-#include "collections/posting.h"
-#include "collections/statement.h"
-#include "forms/kurvo.h"
 #include "platform/clock.h"
-#include "platform/date_picker.h"
-#include "platform/grid_view.h"
 #include "raw_store.h"
-#include "session/panel_setup.h"
-#include "session/terms.h"
+#include "till.h"
 
 #include <QCoreApplication>
-
-#include <stdexcept>
 
 namespace bench {
 
 namespace {
-
-constexpr int instalments = 6;
-constexpr int paid_column = 4;  // of FTahsil_TABLO4
-
-struct DueStudent {
-    double number;
-    std::vector<std::string> due_days;
-};
-
-// Students with six open instalments or more.
-std::vector<DueStudent> due_students(std::size_t count) {
-    std::vector<DueStudent> due;
-    RawFile term(BigSchool::term_file);
-    RawStatement open = term.prepare("SELECT ONO, VADE FROM Odeme WHERE TUTAR-ODENEN>1000 ORDER BY ONO, VADE");
-    while (due.size() <= count && open.step()) {
-        const double number = open.number(0);
-        if (due.empty() || due.back().number != number) {
-            if (!due.empty() && due.back().due_days.size() < instalments) due.pop_back();
-            due.push_back({number, {}});
-        }
-        if (due.back().due_days.size() < instalments) due.back().due_days.push_back(open.text(1));
-    }
-    if (due.size() <= count) throw std::runtime_error("the school has too few debtors");
-    due.pop_back();
-    return due;
-}
-
-// The part of the program that posts.
-class Till {
-public:
-    Till();
-    // All that comes before CommandOK: the student, six marks, the second stage with an invoice number.
-    void prepare(double student);
-    void post() { kurvo_.CommandOK->click(); }
-
-private:
-    SessionContext session_;
-    Kurvo kurvo_;
-    Terms terms_{kurvo_, session_};
-    Statement statement_{kurvo_, session_};
-    CollectionScreen screen_{kurvo_, session_, terms_};
-    Posting posting_{kurvo_, session_, statement_, screen_, {[] {}, [] {}}};
-};
-
-Till::Till() {
-    session_.dataRoot = BigSchool::root;
-    session_.termCode = QStringLiteral("2026");
-    session_.forceTodayOnPosting = QStringLiteral("0");
-    session_.collectionsAllowed = 1;
-    kurvo_.CommandTAHSILAT->show();
-    kurvo_.ComboKASATIP->addItem(QStringLiteral("TL"));
-    set_up_list(kurvo_);
-    set_up_panels(kurvo_, session_);
-    terms_.open();
-    kurvo_.show();
-    QCoreApplication::processEvents();
-}
-
-void Till::prepare(double student) {
-    kurvo_.LONO->setText(QString::number(student, 'f', 0));
-    session_.studentSelected = true;
-    session_.shownStudent = static_cast<std::int64_t>(student);
-    statement_.odeme_durumu();
-    kurvo_.CommandTAHSILAT->click();
-    for (int row = 0; row < instalments; ++row) emit kurvo_.FTahsil_Tablo2->cell_clicked(row, 0);
-    kurvo_.CommandTAHSIL->click();
-    for (int row = 1; row <= instalments; ++row) kurvo_.FTahsil_TABLO4->set_text(row, paid_column, QStringLiteral("1"));
-    kurvo_.FOP->setChecked(true);
-    kurvo_.CommandOK2->click();
-    QCoreApplication::processEvents();
-}
 
 // The same rows, each found before it is written, and the same commits.
 class BareTill {

@@ -1,6 +1,6 @@
 #include "raw_store.h"
 
-#include "platform/numbers.h"
+#include "platform/turkish.h"
 #include "platform/paths.h"
 
 #include <stdexcept>

@@ -112,7 +112,7 @@ void BareRecord::save(double student) {
 void BareRecord::refill(GridView& list) {
     const GridView::Filling filling(list);
     for (int row = 0; list_.step(); ++row) {
-        if (row == list.rows()) list.set_rows(row + BigSchool::students);
+        if (row == list.rows()) list.set_rows(row + BigSchool::usual_students);
         for (int column = 0; column < 3; ++column)
             list.set_text(row, column, QString::fromStdString(list_.text(column)));
     }

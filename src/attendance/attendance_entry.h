@@ -24,8 +24,6 @@ public:
     // Closes the cell box and shows what is stored of the day; nothing while no student is on the card. A lesson that
     // the school has given up gets a row without a name at the end.
     void devam_gunu_yukle();
-    // Closes the cell box, takes the rows without a name away and empties the counters and the excuse.
-    void devam_temizle();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -42,6 +40,8 @@ private:
     bool FDevam_Cel_In_KeyDown(const QKeyEvent& event);
     bool FDevam_Tablo2_KeyPress(const QKeyEvent& event);
 
+    // Closes the cell box, takes the rows without a name away and empties the counters and the excuse.
+    void devam_temizle();
     void load_excuse();
     void load_lessons();
     bool save_lessons();  // whether a lesson of the day has hours now

@@ -1,6 +1,6 @@
 #include "attendance/attendance_tables.h"
 
-#include <ranges>
+#include <algorithm>
 
 store::Recordset AttendanceTables::open_absences(store::Database& term) const {
     store::Recordset records = term.OpenRecordset(absences);

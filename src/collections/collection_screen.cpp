@@ -149,7 +149,7 @@ void CollectionScreen::CommandTAHSIL_Click() {
     kurvo_.CommandOK->show();
     kurvo_.CommandGERI->show();
     kurvo_.FTahsil_Frame1->show();
-    kurvo_.kilitle(locked_controls());
+    kurvo_.kilitle(kurvo_.student_choice());
     kurvo_.MOP->setFocus();
 }
 
@@ -180,15 +180,6 @@ void CollectionScreen::fill_chosen(int count) {
             to++, {open.text(row, open_grid::vade), open.text(row, open_grid::odsek), open.text(row, open_grid::ack),
                    open.text(row, open_grid::kalan), open.text(row, open_grid::odenecek)});
     }
-}
-
-// What keeps the student from changing in the middle of a collection.
-std::vector<QWidget*> CollectionScreen::locked_controls() const {
-    return {kurvo_.CommandYENI, kurvo_.CommandTAHSILAT, kurvo_.CommandDEVAMSIZLIK,
-            kurvo_.CommandETUD, kurvo_.CommandNOT,      kurvo_.CommandTOPLU,
-            kurvo_.CommandSBUL, kurvo_.CommandDOSYADAN, kurvo_.TABLO,
-            kurvo_.bslk[0],     kurvo_.bslk[1],         kurvo_.bslk[2],
-            kurvo_.LONO,        kurvo_.SDONEM};
 }
 
 void CollectionScreen::FTahsil_TABLO4_MouseDown(int row, int column) {
@@ -261,7 +252,7 @@ void CollectionScreen::CommandGERI_Click() {
     kurvo_.FTahsil_TABLO4->set_rows(0);
     kurvo_.CommandTAHSIL->show();
     hide({kurvo_.CommandOK, kurvo_.CommandGERI, kurvo_.FTahsil_Frame1, kurvo_.Cel_In});
-    kurvo_.kilidi_ac(locked_controls());
+    kurvo_.kilidi_ac(kurvo_.student_choice());
     kurvo_.kilidi_ac({kurvo_.ODENEN, kurvo_.KASAODENEN});
     // Else the keys would go to whatever comes next, and an arrow key could change the term.
     kurvo_.FTahsil_Tablo2->setFocus();

@@ -48,7 +48,6 @@ private:
     void copy_to_till();
     Money sum_of_chosen(int column) const;
     bool in_second_stage() const { return !kurvo_.FTahsil_Frame1->isHidden(); }
-    std::vector<QWidget*> locked_controls() const;
 
     Kurvo& kurvo_;
     SessionContext& session_;

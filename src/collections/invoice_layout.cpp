@@ -4,7 +4,7 @@
 #include "session/item_file.h"
 
 #include <algorithm>
-#include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -54,9 +54,7 @@ std::vector<LayoutItem> invoice_layout(const SessionContext& session, int last_c
     std::vector<LayoutItem> layout;
     for (std::size_t i = 0; i < static_cast<std::size_t>(print.layoutCount); ++i) {
         const auto refuse = [&](const QString& why) {
-            throw std::runtime_error(
-                item_file_refusal(session.data_file(QStringLiteral("Fatura.txt")), print.layoutLine[i], why)
-                    .toStdString());
+            refuse_line(session.data_file(QStringLiteral("Fatura.txt")), print.layoutLine[i], why);
         };
         const auto number = [](const QString& text) { return static_cast<int>(numbers::val(text)); };
         const QString code = print.flbl[i].mid(1).trimmed();

@@ -8,17 +8,10 @@
 #include "platform/attempt.h"
 #include "platform/clock.h"
 #include "platform/numbers.h"
+#include "platform/refusal.h"
 #include "platform/slots.h"
 #include "platform/wait_cursor.h"
-
-namespace {
-
-// A text field without a value holds one blank.
-QString blank_for_empty(const QString& text) {
-    return text.isEmpty() ? QStringLiteral(" ") : text;
-}
-
-}  // namespace
+#include "session/blank_text.h"
 
 Posting::Posting(Kurvo& kurvo, SessionContext& session, Statement& statement, CollectionScreen& screen,
                  CollectionPapers papers)
@@ -51,9 +44,8 @@ void Posting::store_collection() {
     } catch (const std::runtime_error& failure) {
         // Without a word the clerk would collect once more, and the money would be in the cash book twice.
         const QString saat = ksaat.left(2) + u':' + ksaat.mid(2, 2) + u':' + ksaat.mid(4);
-        throw std::runtime_error(QStringLiteral("Kasa kaydı yazıldı (%1 %2), fakat taksitlere tamamı işlenemedi.\n%3")
-                                     .arg(dates::shown(tarih), saat, QString::fromUtf8(failure.what()))
-                                     .toStdString());
+        refuse(QStringLiteral("Kasa kaydı yazıldı (%1 %2), fakat taksitlere tamamı işlenemedi.\n%3")
+                   .arg(dates::shown(tarih), saat, QString::fromUtf8(failure.what())));
     }
 }
 
@@ -93,7 +85,7 @@ QString Posting::add_kasa_row(store::Database& reference, const QString& tarih) 
         kasa["TUTAR"] = numbers::whole(kurvo_.KASAODENEN->text()).number();
         kasa["AE"] = "+";
         kasa["KOD"] = "1";
-        kasa["TIP"] = blank_for_empty(kurvo_.ComboKASATIP->currentText());
+        kasa["TIP"] = or_blank(kurvo_.ComboKASATIP->currentText());
         kasa.Update();
     });
 }

@@ -119,7 +119,7 @@ void Copy::remainder() {
 
 void makbuz_yaz(const Kurvo& kurvo, const SessionContext& session, Money alinan) {
     PrintSurface paper(QStringLiteral("Makbuz"), kurvo.LONO->text());
-    paper.line_width(static_cast<int>(numbers::val(session.lineThickness)));
+    paper.line_width(session.line_width());
     const QString school = kurvo.CheckKad->isChecked() ? session.schoolName : QString();
     for (const double top : copy_tops) {
         Copy copy(paper, top, kurvo);

@@ -35,7 +35,7 @@ void Contract::print_contract() {
     const QStringList clauses = has_clauses ? text_file::read_lines(clauses_file()) : QStringList();
 
     PrintSurface surface(u"Sözleşme"_s, form_.ONO->text());
-    surface.line_width(static_cast<int>(numbers::val(session_.lineThickness)));
+    surface.line_width(session_.line_width());
     ContractPaper paper(surface, form_, dates::shown(opened_));
     paper.heading(session_.schoolName);
     if (has_clauses) paper.clauses(clauses);
@@ -55,7 +55,7 @@ void Contract::CommandSOZLESME_Click() {
 
 void Contract::CommandSave_Click() {
     const bool saved = attempt(u"Sözleşme kaydedilemedi."_s, [this] {
-        text_file::write_lines(clauses_file(), form_.Text_Soz->toPlainText().trimmed().split(u'\n'));
+        text_file::write_lines(clauses_file(), form_.Text_Soz->toPlainText().split(u'\n'));
     });
     if (saved) prompt::tell(u"Sözleşme Kaydedildi."_s);
 }

@@ -9,7 +9,6 @@
 #include "platform/paper_text.h"
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 

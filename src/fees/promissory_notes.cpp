@@ -10,6 +10,7 @@
 #include "platform/grid_view.h"
 #include "platform/numbers.h"
 #include "platform/paper_text.h"
+#include "platform/refusal.h"
 #include "platform/slots.h"
 #include "platform/wait_cursor.h"
 
@@ -28,10 +29,8 @@ Money open_amount(const GridView& plan, int row) {
 double note_height(const SessionContext& session) {
     const double height = numbers::val(session.noteHeight);
     if (height <= 0)
-        throw std::runtime_error(
-            u"%1 hatalı: 6. değer (Senet Yükseklik) 0'dan büyük bir sayı olmalı, \"%2\" yazılmış."_s
-                .arg(session.data_file(u"Prmt.txt"_s), session.noteHeight)
-                .toStdString());
+        refuse(u"%1 hatalı: 6. değer (Senet Yükseklik) 0'dan büyük bir sayı olmalı, \"%2\" yazılmış."_s.arg(
+            session.data_file(u"Prmt.txt"_s), session.noteHeight));
     return height;
 }
 

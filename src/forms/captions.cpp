@@ -1,6 +1,6 @@
 #include "forms/captions.h"
 
-#include "platform/numbers.h"
+#include "platform/turkish.h"
 
 #include <QAbstractButton>
 #include <QLabel>

@@ -1,11 +1,11 @@
 #include "forms/kurvo.h"
 
 #include "forms/captions.h"
+#include "forms/column_widths.h"
 #include "platform/screen_units.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QStyle>
 
@@ -15,8 +15,6 @@ using screen_units::pixels;
 
 namespace {
 
-constexpr int first_button_top = 480;  // twips
-constexpr int button_step = 240;
 constexpr int button_count = 6;
 constexpr int heading_height = 24;
 constexpr int both_session_lists = 1400;  // pixels
@@ -29,16 +27,18 @@ void set_look(QWidget* widget, const char* property, bool on) {
     widget->style()->polish(widget);
 }
 
-// Labels over the columns of a grid: as wide as these, the stretching one taking what is left, and the place of
+// Labels over the visible columns of a grid: as wide as these, the stretching one taking what is left, and the place of
 // the grid's scroll bar free at the end.
 void set_heading_widths(QFrame* headings, const std::vector<int>& twips, std::size_t stretching) {
     auto* row = static_cast<QHBoxLayout*>(headings->layout());
+    int place = 0;
     for (std::size_t i = 0; i < twips.size(); ++i) {
-        QWidget* label = row->itemAt(static_cast<int>(i))->widget();
+        if (twips[i] <= 1) continue;
         if (i == stretching)
-            row->setStretch(static_cast<int>(i), 1);
+            row->setStretch(place, 1);
         else
-            label->setFixedWidth(pixels(twips[i]));
+            row->itemAt(place)->widget()->setFixedWidth(pixels(twips[i]));
+        ++place;
     }
     row->addSpacing(headings->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     headings->setFixedHeight(heading_height);
@@ -90,9 +90,9 @@ void Kurvo::set_up_controls() {
 // As wide as the list's columns with its scroll bar, so that nothing of a name is lost and nothing is wasted.
 void Kurvo::set_up_list_column() {
     const int scroll_bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    bslk[0]->setFixedWidth(pixels(500));
-    bslk[1]->setFixedWidth(pixels(700));
-    const int width = pixels(500) + pixels(700) + pixels(2500) + scroll_bar + 2 * TABLO->frameWidth();
+    int width = scroll_bar + 2 * TABLO->frameWidth();
+    for (const int twips : column_widths::list) width += pixels(twips);
+    for (const std::size_t column : {0, 1}) bslk[column]->setFixedWidth(pixels(column_widths::list[column]));
     list_band->setFixedSize(width, heading_height);
     TABLO->setFixedWidth(width);
     TABLO->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -106,8 +106,8 @@ void Kurvo::set_up_list_column() {
 }
 
 void Kurvo::set_up_collections() {
-    set_heading_widths(open_headings, {250, 1000, 1000, 1200, 2600, 1430}, 4);
-    set_heading_widths(correction_headings, {960, 1080, 3240, 960, 960}, 2);
+    set_heading_widths(open_headings, column_widths::open, 4);
+    set_heading_widths(correction_headings, column_widths::chosen, 2);
     FTahsil_Tablo2->set_stretch_column(4);
     FTahsil_TABLO4->set_stretch_column(2);
     FTahsil_Frame1->raise();
@@ -210,7 +210,11 @@ void Kurvo::kilidi_ac(const std::vector<QWidget*>& controls) {
 }
 
 std::vector<QWidget*> Kurvo::student_choice() const {
-    return {TABLO, bslk[0], bslk[1], bslk[2], LONO, SDONEM, CommandSBUL};
+    return {CommandYENI, CommandTAHSILAT, CommandDEVAMSIZLIK,
+            CommandETUD, CommandNOT,      CommandTOPLU,
+            CommandSBUL, CommandDOSYADAN, TABLO,
+            bslk[0],     bslk[1],         bslk[2],
+            LONO,        SDONEM};
 }
 
 void Kurvo::place_button(QPushButton* button, int top_twips) {

@@ -54,12 +54,13 @@ public:
     // as it is.
     void kilitle(const std::vector<QWidget*>& controls);
     void kilidi_ac(const std::vector<QWidget*>& controls);
-    // What no lock of the student's choice may leave usable: the list, its headings, the number box, the term
-    // list and the search button.
+    // What would change the student or leave the panel: the panel buttons, the list, its headings, the number box and
+    // the term list.
     std::vector<QWidget*> student_choice() const;
 
-    // Places a panel button in the column of panel buttons; its top in twips as the rights mask counts it, where the
-    // first button stands at 480 and a step is 240. Showing it is the caller's.
+    // Places a panel button in the column of panel buttons; its top in twips as the rights mask counts it. Showing it
+    // is the caller's.
+    static constexpr int first_button_top = 480, button_step = 240;
     void place_button(QPushButton* button, int top_twips);
 
     // The number box in red while its number is not the card's.

@@ -1,17 +1,13 @@
 #include "forms/kurvo_yeni.h"
 
 #include "forms/captions.h"
+#include "forms/record_blocks.h"
 #include "forms/record_fields.h"
-#include "forms/record_layout.h"
 #include "forms/typing_limit.h"
-#include "platform/screen_units.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QGridLayout>
 #include <QKeyEvent>
-#include <QScreen>
-#include <QScrollBar>
 
 #include <type_traits>
 
@@ -19,44 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int caption_width = 132;
-constexpr int inner_caption_width = 84;   // of a second control in its row
-constexpr QSize comfortable(1900, 980);   // all blocks without scrolling
 constexpr int three_columns_from = 1800;  // pixels of page width
-
-QLabel* caption_label(const QString& text, const QString& control) {
-    auto* label = new QLabel(text);
-    label->setObjectName(u"caption_"_s + control);
-    label->setProperty("caption", true);
-    return label;
-}
-
-QLabel* heading_label(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setProperty("heading", true);
-    return label;
-}
-
-const RecordField* field_with(const QString& control) {
-    for (const RecordField& field : record_fields())
-        if (control == QLatin1String(field.control)) return &field;
-    return nullptr;
-}
-
-QString caption_of(const QString& control) {
-    const RecordField* field = field_with(control);
-    return field == nullptr ? QString() : field->caption;
-}
-
-QGridLayout* block_grid(QWidget* block, const QString& heading) {
-    auto* grid = new QGridLayout(block);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
-    grid->setColumnMinimumWidth(0, caption_width);
-    grid->addWidget(heading_label(heading), 0, 0, 1, -1);
-    return grid;
-}
 
 }  // namespace
 
@@ -64,9 +23,7 @@ KurvoYeni::KurvoYeni(QWidget* parent) : QWidget(parent, Qt::Window) {
     KurvoYeniForm::setupUi(this);
     setObjectName(u"KurvoYeni"_s);
     FrameOdemeler::setupUi(payments_place);
-    make_controls();
-    build_blocks();
-    build_family();
+    reading_order_ = RecordBlocks(*this, make_controls()).build();
     set_up_payments();
     build_overlays();
     // The wheel scrolls the page and changes no choice on its way.
@@ -77,8 +34,6 @@ KurvoYeni::KurvoYeni(QWidget* parent) : QWidget(parent, Qt::Window) {
     set_tab_order();
     DefaultButtonRule::watch(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keep_in_sight(now); });
-    resize(screen()->availableSize().boundedTo(comfortable));
-    wide_ = true;
     arrange_columns();
 }
 
@@ -87,8 +42,9 @@ KurvoYeni::~KurvoYeni() {
     disconnect(qApp, nullptr, this, nullptr);
 }
 
-// What the .ui files do not hold is made here, each control with its name.
-void KurvoYeni::make_controls() {
+// What the .ui files do not hold is made here, each control with its name. Returns all of the fields by name.
+std::map<QString, QWidget*> KurvoYeni::make_controls() {
+    std::map<QString, QWidget*> controls;
     for (const RecordField& field : record_fields()) {
         std::visit(
             [&](auto member) {
@@ -100,7 +56,7 @@ void KurvoYeni::make_controls() {
                         this->*member = new Control(this);
                         (this->*member)->setObjectName(name);
                     }
-                    controls_[name] = drawn == nullptr ? this->*member : drawn;
+                    controls[name] = drawn == nullptr ? this->*member : drawn;
                 }
             },
             field.member);
@@ -110,7 +66,7 @@ void KurvoYeni::make_controls() {
           std::tuple(&CommandSERVISBUL, "CommandSERVISBUL", u"Parametreleri Oluştur"_s)}) {
         *button = new QPushButton(text, this);
         (*button)->setObjectName(QLatin1String(name));
-        controls_[QLatin1String(name)] = *button;
+        controls[QLatin1String(name)] = *button;
     }
     OO[4] = OO_4, OO[5] = OO_5, OO[6] = OO_6, OO[7] = OO_7;
     for (QComboBox* combo : {GELOKUL, OZKOD}) {
@@ -130,86 +86,7 @@ void KurvoYeni::make_controls() {
     SAKLA->setToolTip(u"Gizli öğrenci"_s);
     for (QLineEdit* figure : {OO_4, OO_5, OO_6, OO_7, KRDSAY, AYAKKABI, SERVISNO, DURAKNO})
         figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-}
-
-QWidget* KurvoYeni::control(const QString& name) const {
-    return controls_.at(name);
-}
-
-void KurvoYeni::build_blocks() {
-    std::map<record_layout::Column, QVBoxLayout*> columns;
-    for (auto [column, widget] : {std::pair(record_layout::Column::identity, identity_column),
-                                  std::pair(record_layout::Column::papers, papers_column)}) {
-        columns[column] = new QVBoxLayout(widget);
-        columns[column]->setContentsMargins(0, 0, 0, 0);
-        columns[column]->setSpacing(16);
-    }
-    for (const record_layout::Block& block : record_layout::blocks()) {
-        auto* frame = new QWidget;
-        QGridLayout* grid = block_grid(frame, block.heading);
-        int row = 1;
-        for (const QStringList& names : block.rows) {
-            grid->addWidget(caption_label(caption_of(names.first()), names.first()), row, 0);
-            auto* line = new QHBoxLayout;
-            line->setSpacing(8);
-            add_controls(*line, names);
-            grid->addLayout(line, row++, 1);
-        }
-        grid->setColumnStretch(1, 1);
-        columns[block.column]->addWidget(frame);
-    }
-    for (auto& [column, layout] : columns) layout->addStretch(1);
-}
-
-// Two controls of a row share its width evenly, so that rows of two stand under each other; a text that goes on behind
-// another control without a caption takes more.
-void KurvoYeni::add_controls(QBoxLayout& line, const QStringList& names) {
-    QString caption = caption_of(names.first());
-    for (const QString& name : names) {
-        const bool has_own_caption = caption_of(name) != caption && !caption_of(name).isEmpty();
-        if (has_own_caption) {
-            QLabel* label = caption_label(caption_of(name).trimmed(), name);
-            if (names.size() == 2) label->setMinimumWidth(inner_caption_width);
-            line.addWidget(label);
-        }
-        if (!caption_of(name).isEmpty()) caption = caption_of(name);
-        QWidget* const placed = control(name);
-        const bool goes_on = name != names.first() && !has_own_caption && qobject_cast<QLineEdit*>(placed) != nullptr;
-        const bool is_field = qobject_cast<QAbstractButton*>(placed) == nullptr;
-        line.addWidget(placed, !is_field ? 0 : goes_on ? 3 : 2);
-        if (!has_own_caption && is_field) placed->setAccessibleName(caption.trimmed());
-        reading_order_.push_back(placed);
-    }
-}
-
-void KurvoYeni::build_family() {
-    QGridLayout* grid = block_grid(family_place, u"AİLE  BİLGİLERİ"_s);
-    grid->addWidget(caption_label(u"Annesi"_s, u"anne"_s), 1, 1);
-    grid->addWidget(caption_label(u"Babası"_s, u"baba"_s), 1, 2);
-    int row = 2;
-    for (const QStringList& names : record_layout::family_rows()) {
-        grid->addWidget(caption_label(caption_of(names[0]), names[0]), row, 0);
-        for (int parent = 0; parent < 2; ++parent) {
-            grid->addWidget(control(names[parent]), row, parent + 1);
-            control(names[parent])
-                ->setAccessibleName((parent == 0 ? u"Annesi"_s : u"Babası"_s) + caption_of(names[parent]));
-        }
-        ++row;
-    }
-    for (int parent = 0; parent < 2; ++parent)
-        for (const QStringList& names : record_layout::family_rows()) reading_order_.push_back(control(names[parent]));
-    auto* last = new QHBoxLayout;
-    last->setSpacing(16);
-    KRDSAY->setMaximumWidth(60);
-    grid->addWidget(caption_label(caption_of(u"KRDSAY"_s), u"KRDSAY"_s), row, 0);
-    for (QWidget* widget : std::initializer_list<QWidget*>{KRDSAY, AYRI, SAVBEL}) {
-        last->addWidget(widget);
-        reading_order_.push_back(widget);
-    }
-    last->addStretch(1);
-    grid->addLayout(last, row, 1, 1, 2);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 1);
+    return controls;
 }
 
 void KurvoYeni::set_up_payments() {

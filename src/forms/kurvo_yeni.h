@@ -20,8 +20,6 @@
 #include <map>
 #include <vector>
 
-class QBoxLayout;
-
 // Passive: builds its blocks from record_fields(), lays itself out, tells when it is closed. It has no default
 // button, and Esc does not close it. Every control is a member by its one name and has that name as object name.
 class KurvoYeni : public QWidget,
@@ -81,10 +79,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void make_controls();
-    void build_blocks();
-    void add_controls(QBoxLayout& line, const QStringList& names);
-    void build_family();
+    std::map<QString, QWidget*> make_controls();
     void build_overlays();
     void set_up_payments();
     void set_tab_order();
@@ -92,9 +87,7 @@ private:
     void place_plan_panel();
     void keep_in_sight(QWidget* control);
     void limit_typing();
-    QWidget* control(const QString& name) const;
 
-    std::map<QString, QWidget*> controls_;
     std::vector<QWidget*> reading_order_;
-    bool wide_ = false;
+    bool wide_ = true;  // as it is drawn
 };

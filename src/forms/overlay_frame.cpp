@@ -3,8 +3,6 @@
 #include <QEvent>
 #include <QKeyEvent>
 
-#include <algorithm>
-
 OverlayFrame::OverlayFrame(QWidget* parent) : QFrame(parent) {
     setAutoFillBackground(true);
 }

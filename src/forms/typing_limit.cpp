@@ -1,7 +1,5 @@
 #include "forms/typing_limit.h"
 
-#include <QPointer>
-
 #include <algorithm>
 #include <memory>
 

@@ -3,8 +3,6 @@
 
 #include <QLineEdit>
 
-#include <functional>
-
 namespace typing_limit {
 
 // Typing and pasting stop at `limit` characters, or where the box stands already if a longer text was loaded.

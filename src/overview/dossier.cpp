@@ -1,7 +1,6 @@
 #include "overview/dossier.h"
 
 #include "overview/dossier_sections.h"
-#include "platform/numbers.h"
 #include "platform/slots.h"
 #include "platform/wait_cursor.h"
 
@@ -22,9 +21,7 @@ Dossier::Dossier(Kurvo& kurvo, SessionContext& session) : kurvo_(kurvo), session
 
 std::vector<QWidget*> Dossier::locked_controls() const {
     std::vector<QWidget*> controls = kurvo_.student_choice();
-    controls.insert(controls.end(), {kurvo_.SSTab1, kurvo_.CommandYAZF, kurvo_.CommandYENI, kurvo_.CommandTAHSILAT,
-                                     kurvo_.CommandDEVAMSIZLIK, kurvo_.CommandETUD, kurvo_.CommandNOT,
-                                     kurvo_.CommandTOPLU, kurvo_.CommandDOSYADAN});
+    controls.insert(controls.end(), {kurvo_.SSTab1, kurvo_.CommandYAZF});
     return controls;
 }
 
@@ -83,7 +80,7 @@ void Dossier::print(const QString& paper_name) {
     const bool with_family = wanted(family_and_note);
     DossierTemplate first(kurvo_, session_, with_family);
     PrintSurface paper(paper_name, kurvo_.LONO->text());
-    paper.line_width(static_cast<int>(numbers::val(session_.lineThickness)));
+    paper.line_width(session_.line_width());
     DossierPages pages(paper, first, kurvo_.LADSOYAD->text(), with_family ? full : below_identity);
     if (wanted(payments)) dossier_sections::payments(pages, kurvo_, session_.termDb);
     if (wanted(absences)) dossier_sections::absences(pages, kurvo_);

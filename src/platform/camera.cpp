@@ -1,6 +1,7 @@
 #include "platform/camera.h"
 
 #include "platform/paths.h"
+#include "platform/refusal.h"
 
 #include <QCamera>
 #include <QCameraDevice>
@@ -13,7 +14,6 @@
 #include <QVideoSink>
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace camera {
 
@@ -21,10 +21,6 @@ namespace {
 
 constexpr qint64 longest_silence = 10'000;  // ms; a slow camera needs some seconds for its first picture
 constexpr QSize least_size(352, 288);
-
-[[noreturn]] void fail(const QString& reason) {
-    throw std::runtime_error(reason.toStdString());
-}
 
 QString size_name(const QSize& size) {
     return QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
@@ -61,16 +57,16 @@ public:
     DeviceCamera() {
         const QList<QCameraDevice> devices = QMediaDevices::videoInputs();
         // Asked for first: without a device the multimedia library delivers a test picture.
-        if (devices.isEmpty()) fail(QStringLiteral("Kamera bulunamadı."));
+        if (devices.isEmpty()) refuse(QStringLiteral("Kamera bulunamadı."));
         capture_.setVideoSink(&sink_);
         QObject::connect(&sink_, &QVideoSink::videoFrameChanged, &sink_, [this] { since_frame_.start(); });
         use(QMediaDevices::defaultVideoInput());
     }
 
     QImage frame() override {
-        if (broken_) fail(QStringLiteral("Kamera çalışmıyor ya da başka bir program kullanıyor."));
-        if (!QMediaDevices::videoInputs().contains(device_)) fail(QStringLiteral("Kameranın bağlantısı kesildi."));
-        if (since_frame_.hasExpired(longest_silence)) fail(QStringLiteral("Kameradan görüntü gelmiyor."));
+        if (broken_) refuse(QStringLiteral("Kamera çalışmıyor ya da başka bir program kullanıyor."));
+        if (!QMediaDevices::videoInputs().contains(device_)) refuse(QStringLiteral("Kameranın bağlantısı kesildi."));
+        if (since_frame_.hasExpired(longest_silence)) refuse(QStringLiteral("Kameradan görüntü gelmiyor."));
         return sink_.videoFrame().toImage();
     }
 
@@ -129,7 +125,7 @@ public:
         QImageReader reader(paths::native(file_));
         reader.setDecideFormatFromContent(true);
         QImage picture = reader.read();
-        if (picture.isNull()) fail(QStringLiteral("Kamera yerine geçen resim okunamadı: ") + file_);
+        if (picture.isNull()) refuse(QStringLiteral("Kamera yerine geçen resim okunamadı: ") + file_);
         return picture;
     }
 

@@ -1,6 +1,6 @@
 #include "platform/grid_sort.h"
 
-#include "platform/numbers.h"
+#include "platform/turkish.h"
 
 #include <algorithm>
 #include <numeric>

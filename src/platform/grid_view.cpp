@@ -176,10 +176,6 @@ QColor GridView::back_color(int row, int column) const {
     return model_->format(row, column).back;
 }
 
-QColor GridView::fore_color(int row, int column) const {
-    return model_->format(row, column).fore;
-}
-
 int GridView::row() const {
     return currentIndex().isValid() ? currentIndex().row() + fixed_rows() : -1;
 }

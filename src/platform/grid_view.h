@@ -54,7 +54,6 @@ public:
     void set_bold(int row, int column, bool bold);
     void set_row_back_color(int row, const QColor& color);
     QColor back_color(int row, int column) const;
-    QColor fore_color(int row, int column) const;
 
     // The current cell; -1 where there is none.
     int row() const;

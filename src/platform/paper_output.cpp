@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/paper_fonts.h"
 #include "platform/paths.h"
+#include "platform/refusal.h"
 #include "platform/rich_lines.h"
 
 #include <QBuffer>
@@ -16,8 +17,6 @@
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
-#include <stdexcept>
-
 namespace paper_output {
 
 namespace {
@@ -25,10 +24,6 @@ namespace {
 using Operation = PrintSurface::Operation;
 constexpr int twips_an_inch = 1440;
 constexpr double pen_unit = 5;  // twips
-
-[[noreturn]] void fail(const QString& text) {
-    throw std::runtime_error(text.toStdString());
-}
 
 QString title_of(const PrintSurface::Document& document) {
     return (document.paper + u' ' + document.student).trimmed();
@@ -114,7 +109,7 @@ void send_to_printer(const PrintSurface::Document& document, const QPrinterInfo&
     printer.setDocName(title_of(document));
     printer.setCreator(QStringLiteral("Kurvo"));
     if (!render(document, printer, fonts) || printer.printerState() == QPrinter::Error || queue_refused())
-        fail(QStringLiteral("\"%1\" yazıcısı belgeyi kabul etmedi.").arg(info.printerName()));
+        refuse(QStringLiteral("\"%1\" yazıcısı belgeyi kabul etmedi.").arg(info.printerName()));
 }
 
 QByteArray pdf_of(const PrintSurface::Document& document, PaperFonts& fonts) {
@@ -125,7 +120,7 @@ QByteArray pdf_of(const PrintSurface::Document& document, PaperFonts& fonts) {
     writer.setPageLayout(sheet());
     writer.setTitle(title_of(document));
     writer.setCreator(QStringLiteral("Kurvo"));
-    if (!render(document, writer, fonts)) fail(QStringLiteral("Belge PDF olarak hazırlanamadı."));
+    if (!render(document, writer, fonts)) refuse(QStringLiteral("Belge PDF olarak hazırlanamadı."));
     return buffer.data();
 }
 
@@ -141,11 +136,11 @@ QString safe(const QString& text) {
 QString write_pdf(const PrintSurface::Document& document, const QString& folder, PaperFonts& fonts) {
     const QByteArray bytes = pdf_of(document, fonts);
     const QString native_folder = paths::native(folder);
-    const auto refuse = [&] { fail(QStringLiteral("Belge \"%1\" klasörüne yazılamadı.").arg(folder)); };
-    if (!QDir().mkpath(native_folder)) refuse();
+    const auto refuse_folder = [&] { refuse(QStringLiteral("Belge \"%1\" klasörüne yazılamadı.").arg(folder)); };
+    if (!QDir().mkpath(native_folder)) refuse_folder();
 
     QTemporaryFile beside(native_folder + QStringLiteral("/.kurvo-XXXXXX.tmp"));
-    if (!beside.open() || beside.write(bytes) != bytes.size() || !beside.flush()) refuse();
+    if (!beside.open() || beside.write(bytes) != bytes.size() || !beside.flush()) refuse_folder();
     beside.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     beside.close();
 
@@ -160,7 +155,7 @@ QString write_pdf(const PrintSurface::Document& document, const QString& folder,
         beside.setAutoRemove(false);
         return file;
     }
-    refuse();
+    refuse_folder();
     return {};
 }
 
@@ -176,7 +171,7 @@ QString send(const PrintSurface::Document& document, PaperFonts& fonts) {
         send_to_printer(document, printer, fonts);
         return {};
     }
-    if (!told.isEmpty()) fail(QStringLiteral("\"%1\" adlı yazıcı bulunamadı.").arg(told));
+    if (!told.isEmpty()) refuse(QStringLiteral("\"%1\" adlı yazıcı bulunamadı.").arg(told));
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return write_pdf(document, documents + QStringLiteral("/Kurvo"), fonts);
 }

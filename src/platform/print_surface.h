@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QImage>
-#include <QPointF>
 #include <QString>
 
 #include <functional>
@@ -55,7 +54,6 @@ public:
     int line_width() const { return width_; }
 
     void set_x(double twips) { x_ = twips; }
-    void set_y(double twips) { y_ = twips; }
     void move_to(double x, double y) { x_ = x, y_ = y; }
     double x() const { return x_; }
     double y() const { return y_; }

@@ -25,7 +25,7 @@ QString with_line_feeds(const QString& text) {
 // A paragraph that follows another one begins a line; the last one may lack its end.
 class PlainSink : public rtf::Sink {
 public:
-    void run(const QString& text, const rtf::Style&, const rtf::Reader&) override {
+    void run(const QString& text, const rtf::Style&, const rtf::Tables&) override {
         begin();
         text_ += text;
     }
@@ -52,11 +52,11 @@ public:
     explicit DocumentSink(QTextDocument& document) : cursor_(&document) { cursor_.beginEditBlock(); }
     ~DocumentSink() override { cursor_.endEditBlock(); }
 
-    void run(const QString& text, const rtf::Style& style, const rtf::Reader& reader) override {
+    void run(const QString& text, const rtf::Style& style, const rtf::Tables& tables) override {
         begin();
         if (style != style_) {
             style_ = style;
-            format_ = format_of(style, reader);
+            format_ = format_of(style, tables);
         }
         cursor_.insertText(text, format_);
     }
@@ -84,13 +84,13 @@ private:
         cursor_.mergeBlockFormat(format);
     }
 
-    static QTextCharFormat format_of(const rtf::Style& style, const rtf::Reader& reader) {
+    static QTextCharFormat format_of(const rtf::Style& style, const rtf::Tables& tables) {
         QTextCharFormat format;
-        if (const QString name = reader.font_name(style.font).trimmed(); !name.isEmpty())
+        if (const QString name = tables.font_name(style.font).trimmed(); !name.isEmpty())
             format.setFontFamilies({name});
         if (style.half_points > 0) format.setFontPointSize(style.half_points / 2.0);
-        if (const auto color = reader.color(style.color)) format.setForeground(QColor(*color));
-        if (const auto color = reader.color(style.background); style.background > 0 && color)
+        if (const auto color = tables.color(style.color)) format.setForeground(QColor(*color));
+        if (const auto color = tables.color(style.background); style.background > 0 && color)
             format.setBackground(QColor(*color));
         if (style.bold) format.setFontWeight(QFont::Bold);
         if (style.italic) format.setFontItalic(true);

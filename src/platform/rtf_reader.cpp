@@ -1,8 +1,5 @@
 #include "platform/rtf_reader.h"
 
-#include "platform/rtf_code_pages.h"
-#include "platform/rtf_words.h"
-
 #include <algorithm>
 
 namespace rtf {
@@ -11,7 +8,6 @@ namespace {
 
 constexpr std::size_t longest_word = 32;
 constexpr int largest_number = 100'000'000;
-constexpr std::size_t most_fonts = 500;  // more would only come from broken input, and slow the document down
 
 bool is_latin(char16_t unit) {
     return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
@@ -36,7 +32,7 @@ bool is_ordinary(char16_t unit) {
 
 }  // namespace
 
-Reader::Reader(QStringView input, Sink& sink) : input_(input), sink_(sink), letters_(letters_of_code_page(1254)) {}
+Reader::Reader(QStringView input, Sink& sink) : input_(input), sink_(sink), letters_(tables_.letters_of(-1)) {}
 
 void Reader::read() {
     while (at_ < input_.size() && !ended_) {
@@ -58,16 +54,6 @@ void Reader::read() {
     }
     flush();
     sink_.document_end(now_.alignment);
-}
-
-QString Reader::font_name(int font) const {
-    const auto found = fonts_.find(font);
-    return found == fonts_.end() ? QString() : found->second.name;
-}
-
-std::optional<QRgb> Reader::color(int index) const {
-    if (index < 0 || static_cast<std::size_t>(index) >= colors_.size()) return std::nullopt;
-    return colors_[static_cast<std::size_t>(index)];
 }
 
 void Reader::open_group() {
@@ -164,7 +150,7 @@ void Reader::apply(const Word& word) {
     if (skipped_depth_ > 0) return;
     if (known.action == Action::letter) return letter(QChar(static_cast<char16_t>(known.argument)));
     fallback_left_ = 0;
-    if (apply_style(known.action, word)) return;
+    if (apply_to_run(known.action, word)) return;
     switch (known.action) {
         case Action::paragraph:
             return end_paragraph();
@@ -182,80 +168,42 @@ void Reader::apply(const Word& word) {
         case Action::skipped_destination:
             return skip_group();
         case Action::document_code_page:
-            code_page_ = word.number;
+            tables_.set_code_page(word.number);
             return select_letters();
         case Action::fixed_code_page:
-            code_page_ = known.argument;
+            tables_.set_code_page(known.argument);
             return select_letters();
         default:
-            return apply_table(known.action, word);
+            return apply_to_tables(known.action, word);
     }
 }
 
 // False when the word is none of a run's looks.
-bool Reader::apply_style(Action action, const Word& word) {
-    Style& style = now_.style;
+bool Reader::apply_to_run(Action action, const Word& word) {
     switch (action) {
-        case Action::bold:
-            style.bold = word.on();
-            return true;
-        case Action::italic:
-            style.italic = word.on();
-            return true;
-        case Action::underline:
-            style.underline = word.on();
-            return true;
-        case Action::underline_end:
-            style.underline = false;
-            return true;
-        case Action::strike:
-            style.strike = word.on();
-            return true;
-        case Action::superscript:
-            style.script = word.on() ? Script::above : Script::normal;
-            return true;
-        case Action::subscript:
-            style.script = word.on() ? Script::below : Script::normal;
-            return true;
-        case Action::script_end:
-            style.script = Script::normal;
-            return true;
         case Action::hidden:
             now_.hidden = word.on();
-            return true;
-        case Action::font_size:
-            style.half_points = std::clamp(word.number, 0, 3276);
-            return true;
-        case Action::color:
-            style.color = std::max(word.number, 0);
-            return true;
-        case Action::background:
-            style.background = std::max(word.number, 0);
             return true;
         case Action::font:
             select_font(word.number);
             return true;
         case Action::plain_style:
-            style = Style{};
+            now_.style = Style{};
             now_.hidden = false;
             select_font(default_font_);
             return true;
         default:
-            return false;
+            return change_style(now_.style, action, word);
     }
 }
 
-void Reader::apply_table(Action action, const Word& word) {
-    const auto part = [&](int shift) {
-        const auto value = static_cast<QRgb>(std::clamp(word.number, 0, 255)) << shift;
-        table_color_ = (table_color_.value_or(qRgb(0, 0, 0)) & ~(QRgb{0xFF} << shift)) | value;
-    };
+void Reader::apply_to_tables(Action action, const Word& word) {
     switch (action) {
         case Action::default_font:
             default_font_ = word.number;
             return select_font(word.number);
         case Action::font_charset:
-            if (now_.destination == Destination::fonts && table_font_ >= 0) fonts_[table_font_].charset = word.number;
+            if (now_.destination == Destination::fonts) tables_.set_charset(word.number);
             return;
         case Action::font_table:
             now_.destination = Destination::fonts;
@@ -264,32 +212,22 @@ void Reader::apply_table(Action action, const Word& word) {
             now_.destination = Destination::colors;
             return;
         case Action::red:
-            return part(16);
         case Action::green:
-            return part(8);
         case Action::blue:
-            return part(0);
+            return tables_.set_color_part(action, word.number);
         default:
             return;
     }
 }
 
-// In the font table a font's number begins its entry.
 void Reader::select_font(int font) {
-    if (now_.destination == Destination::fonts) {
-        const bool taken = fonts_.size() < most_fonts || fonts_.contains(font);
-        table_font_ = taken ? font : -1;
-        if (taken) fonts_[font] = Font{};
-        return;
-    }
+    if (now_.destination == Destination::fonts) return tables_.begin_font(font);
     now_.style.font = font;
     select_letters();
 }
 
 void Reader::select_letters() {
-    const auto font = fonts_.find(now_.style.font);
-    const int charset = font == fonts_.end() ? 0 : font->second.charset;
-    letters_ = letters_of_code_page(code_page_of_charset(charset, code_page_));
+    letters_ = tables_.letters_of(now_.style.font);
 }
 
 void Reader::skip_binary(int size) {
@@ -337,21 +275,10 @@ void Reader::letter(QChar letter) {
         --fallback_left_;
         return;
     }
-    if (now_.destination != Destination::body) return table_letter(letter);
+    if (now_.destination == Destination::fonts) return tables_.add_font_letter(letter);
+    if (now_.destination == Destination::colors) return tables_.add_color_letter(letter);
     const bool own_sign = unit == u'\t' || unit == u'\\' || unit == u'{' || unit == u'}';
     if (!now_.hidden && (own_sign || is_ordinary(unit))) append(QStringView(&letter, 1));
-}
-
-void Reader::table_letter(QChar letter) {
-    if (now_.destination == Destination::fonts) {
-        if (letter == u';')
-            table_font_ = -1;
-        else if (table_font_ >= 0)
-            fonts_[table_font_].name += letter;
-    } else if (letter == u';') {
-        colors_.push_back(table_color_);
-        table_color_.reset();
-    }
 }
 
 void Reader::append(QStringView letters) {
@@ -367,7 +294,7 @@ void Reader::end_paragraph() {
 }
 
 void Reader::flush() {
-    if (!run_.isEmpty()) sink_.run(run_, run_style_, *this);
+    if (!run_.isEmpty()) sink_.run(run_, run_style_, tables_);
     run_.resize(0);
 }
 

@@ -1,44 +1,23 @@
 // Reads the RTF of any word processor as runs of text and ends of paragraphs.
 #pragma once
 
-#include <QRgb>
+#include "platform/rtf_style.h"
+#include "platform/rtf_tables.h"
+
 #include <QString>
 
 #include <cstdint>
-#include <map>
-#include <optional>
-#include <string_view>
 #include <vector>
 
 namespace rtf {
 
-enum class Action : unsigned char;
-
-enum class Script : std::uint8_t { normal, above, below };
-
-// How a run of text looks. Unset (font -1, size 0, colour 0) means as the document has it.
-struct Style {
-    int font = -1;
-    int half_points = 0;
-    int color = 0;
-    int background = 0;
-    bool bold = false;
-    bool italic = false;
-    bool underline = false;
-    bool strike = false;
-    Script script = Script::normal;
-    bool operator==(const Style&) const = default;
-};
-
 enum class Alignment : std::uint8_t { left, right, center, justify };
-
-class Reader;
 
 // Gets the text in its order. A run holds no paragraph ends; QChar::LineSeparator breaks a line.
 class Sink {
 public:
     virtual ~Sink() = default;
-    virtual void run(const QString& text, const Style& style, const Reader& reader) = 0;
+    virtual void run(const QString& text, const Style& style, const Tables& tables) = 0;
     virtual void paragraph_end(Alignment alignment) = 0;
     // The input is at its end, inside a paragraph of this alignment or right behind one.
     virtual void document_end(Alignment alignment) = 0;
@@ -51,10 +30,6 @@ public:
     Reader(QStringView input, Sink& sink);
     void read();
 
-    // For a sink: what the tables say so far.
-    QString font_name(int font) const;  // empty where there is none
-    std::optional<QRgb> color(int index) const;
-
 private:
     enum class Destination : std::uint8_t { body, fonts, colors };
     struct Group {
@@ -64,23 +39,13 @@ private:
         Destination destination = Destination::body;
         bool hidden = false;
     };
-    struct Font {
-        int charset = 0;
-        QString name;
-    };
-    struct Word {
-        std::string_view name;
-        int number = 0;
-        bool has_number = false;
-        bool on() const { return !has_number || number != 0; }
-    };
 
     void control();
     void control_symbol(char16_t symbol);
     void control_word();
     void apply(const Word& word);
-    bool apply_style(Action action, const Word& word);
-    void apply_table(Action action, const Word& word);
+    bool apply_to_run(Action action, const Word& word);
+    void apply_to_tables(Action action, const Word& word);
     void select_font(int font);
     void hex_letter();
     void unicode_letter(int number);
@@ -92,7 +57,6 @@ private:
     void literal_run();
     void letter(QChar letter);
     void append(QStringView letters);
-    void table_letter(QChar letter);
     void end_paragraph();
     void flush();
     void select_letters();
@@ -108,12 +72,8 @@ private:
     QString run_;
     Style run_style_;
 
-    std::map<int, Font> fonts_;
-    int table_font_ = -1;
+    Tables tables_;
     int default_font_ = -1;
-    std::vector<std::optional<QRgb>> colors_;
-    std::optional<QRgb> table_color_;
-    int code_page_ = 1254;
     const QChar* letters_;  // the 256 letters of the current font
     bool ended_ = false;
 };

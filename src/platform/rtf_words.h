@@ -1,4 +1,4 @@
-// The control words that the reader of RTF acts on.
+// The control words of RTF, and what the reader does at those that it knows.
 #pragma once
 
 #include <string_view>
@@ -40,12 +40,21 @@ enum class Action : unsigned char {
     skipped_destination
 };
 
+// A control word as it stands in the input.
+struct Word {
+    std::string_view name;
+    int number = 0;
+    bool has_number = false;
+    bool on() const { return !has_number || number != 0; }
+};
+
 struct KnownWord {
     std::string_view name;
     Action action = Action::unknown;
     int argument = 0;
 };
 
+// The word of Action::unknown where it is none of them.
 const KnownWord& find_word(std::string_view name);
 
 }  // namespace rtf

@@ -1,8 +1,9 @@
 #include "platform/code_page.h"
 #include "platform/rich_text.h"
-#include "platform/rtf_reader.h"
+#include "platform/rtf_style.h"
 
 #include <QFont>
+#include <QRgb>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextFragment>

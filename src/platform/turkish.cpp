@@ -1,5 +1,6 @@
+#include "platform/turkish.h"
+
 #include "platform/code_page.h"
-#include "platform/numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -146,16 +147,6 @@ int compare_read(Reader left, Reader right) {
 }
 
 }  // namespace
-
-QString upper(const QString& text) {
-    QString result = text;
-    return result.replace(u'i', u'İ').replace(u'ı', u'I').toUpper();
-}
-
-QString lower(const QString& text) {
-    QString result = text;
-    return result.replace(u'I', u'ı').replace(u'İ', u'i').toLower();
-}
 
 QString capital(const QString& typed) {
     QString result = typed;

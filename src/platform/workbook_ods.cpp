@@ -34,7 +34,7 @@ QString active_sheet(Package& package) {
 }
 
 std::int64_t repeated(const XmlPart& xml, QStringView attribute) {
-    const QString times = xml.attribute(attribute);
+    const QStringView times = xml.attribute_view(attribute);
     return times.isEmpty() ? 1 : std::clamp<std::int64_t>(times.toLongLong(), 1, most_rows);
 }
 

@@ -99,9 +99,9 @@ bool XmlPart::next() {
     return token != QXmlStreamReader::EndDocument;
 }
 
-QString XmlPart::attribute(QStringView local_name) const {
+QStringView XmlPart::attribute_view(QStringView local_name) const {
     for (const QXmlStreamAttribute& attribute : xml_.attributes())
-        if (attribute.name() == local_name) return attribute.value().toString();
+        if (attribute.name() == local_name) return attribute.value();
     return {};
 }
 

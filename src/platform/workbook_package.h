@@ -43,7 +43,9 @@ public:
     QStringView name() const { return xml_.name(); }
     bool is(QStringView local_name) const { return xml_.name() == local_name; }
     // Of the attribute with this local name; empty without one.
-    QString attribute(QStringView local_name) const;
+    QString attribute(QStringView local_name) const { return attribute_view(local_name).toString(); }
+    // The same without a copy, good until the next token.
+    QStringView attribute_view(QStringView local_name) const;
 
     // To the next child of the element on which the reader stands, passing over texts; false at the element's end. A
     // child must have been read to its own end, as skip() and the loops over its children do.

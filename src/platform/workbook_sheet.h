@@ -21,6 +21,8 @@ struct Cell {
 // Collects the cells of a sheet in any order. Throws too_large() where a file stands for more than fits.
 class Sheet {
 public:
+    // That it holds at most so many cells: spares the moves of a sheet that grows.
+    void expect(qsizetype cells) { cells_.reserve(static_cast<std::size_t>(cells)); }
     void add(std::int64_t row, std::int64_t column, const QString& text);
     // A text that several cells show: counted once by count(), then added to each of them.
     void count(const QString& text);

@@ -266,6 +266,8 @@ bool is_cell_records(const QByteArray& file) {
 std::vector<Cell> read_cell_records(const QByteArray& stream) {
     if (stream[1] != '\x08') throw no_workbook();
     Sheet sheet;
+    constexpr qsizetype smallest_cell = 14;  // bytes; many short numbers take less, and are few
+    sheet.expect(stream.size() / smallest_cell);
     const Globals globals = read_globals(stream, sheet);
     const std::size_t active = globals.active < globals.sheets.size() ? globals.active : 0;
     if (!globals.sheets[active].is_table) throw no_table();

@@ -104,7 +104,7 @@ struct Place {
 };
 
 // "AB12" moves to row 12, column 28. Without a reference the cell stands behind the one before it.
-void move_to(Place& place, const QString& reference) {
+void move_to(Place& place, QStringView reference) {
     if (reference.isEmpty()) return void(++place.column);
     Place found;
     for (const QChar letter : reference) {
@@ -135,8 +135,10 @@ public:
 
 private:
     void read_cell(XmlPart& xml) {
-        move_to(place_, xml.attribute(u"r"));
-        const QString type = xml.attribute(u"t");
+        static const QString shared = u"s"_s;  // of most cells
+        move_to(place_, xml.attribute_view(u"r"));
+        const QStringView kind = xml.attribute_view(u"t");
+        const QString type = kind == shared ? shared : kind.toString();
         while (xml.next_child()) {
             if (xml.is(u"v"))
                 add_value(type, xml.text());

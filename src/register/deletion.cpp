@@ -2,26 +2,22 @@
 
 #include "platform/paths.h"
 #include "platform/prompt.h"
+#include "platform/refusal.h"
 #include "platform/slots.h"
 #include "platform/wait_cursor.h"
 #include "register/record_form.h"
+#include "register/student_tables.h"
 
-#include <stdexcept>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct IndexedTable {
-    const char* table;
-    const char* index;
-};
-
 // Collections go before the study sessions; a renumbering takes them last.
-constexpr IndexedTable tables_in_order[] = {{"Odeme", "OVX"},     {"Devam", "OTDX"}, {"Dmazeret", "OTX"},
-                                            {"Tahsilat", "OVTX"}, {"Etud", "OTSX"},  {"EtudDevam", "OTDX"},
-                                            {"Emazeret", "OTX"}};
+constexpr StudentTable tables_in_order[] = {student_tables::Odeme,    student_tables::Devam, student_tables::Dmazeret,
+                                            student_tables::Tahsilat, student_tables::Etud,  student_tables::EtudDevam,
+                                            student_tables::Emazeret};
 
 }  // namespace
 
@@ -37,7 +33,7 @@ void Deletion::CommandSIL_Click() {
     const WaitCursor wait;
     const std::int64_t student = store::Value(form_.ONO->text()).whole_number();
     remove_photo();
-    for (const auto& [table, index] : tables_in_order) remove_rows(table, index, student);
+    for (const StudentTable& table : tables_in_order) remove_rows(table, student);
     remove_student();
     if (!session_.remoteSchoolKey.isEmpty()) remove_remote_(form_);
     main_.list.listeyi_yenile();
@@ -48,13 +44,12 @@ void Deletion::CommandSIL_Click() {
 void Deletion::remove_photo() {
     const QString name = form_.RESIM->text().trimmed();
     if (name.isEmpty() || !paths::exists(name)) return;
-    if (!paths::remove(name)) throw std::runtime_error((u"Fotoğraf silinemedi: "_s + name).toStdString());
+    if (!paths::remove(name)) refuse(u"Fotoğraf silinemedi: "_s + name);
 }
 
-void Deletion::remove_rows(std::string_view table, std::string_view index, std::int64_t student) {
+void Deletion::remove_rows(const StudentTable& table, std::int64_t student) {
     store::WriteScope scope(session_.termDb);
-    store::Recordset rows = session_.termDb.OpenRecordset(table);
-    rows.Index(index);
+    store::Recordset rows = table.open(session_.termDb);
     store::scan_prefix(rows, {student}, [&] {
         rows.Delete();
         scope.pause_if_due();

@@ -10,6 +10,7 @@
 #include <functional>
 
 class RecordForm;
+struct StudentTable;
 
 class Deletion : public QObject {
     Q_OBJECT
@@ -22,7 +23,7 @@ public:
 private:
     void CommandSIL_Click();
     void remove_photo();
-    void remove_rows(std::string_view table, std::string_view index, std::int64_t student);
+    void remove_rows(const StudentTable& table, std::int64_t student);
     void remove_student();
 
     KurvoYeni& form_;

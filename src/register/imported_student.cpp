@@ -1,15 +1,12 @@
 #include "register/imported_student.h"
 
 #include "platform/numbers.h"
+#include "session/blank_text.h"
 
 namespace {
 
 constexpr qsizetype name_length = 25, telephone_length = 13;
 constexpr double last_grade = 13, no_grade = -1;
-
-QString or_blank(const QString& text) {
-    return text.isEmpty() ? QStringLiteral(" ") : text;
-}
 
 QString or_blank_trimmed(const QString& text) {
     return text.trimmed().isEmpty() ? QStringLiteral(" ") : text;

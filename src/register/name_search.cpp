@@ -2,8 +2,8 @@
 
 #include "platform/control_events.h"
 #include "platform/grid_view.h"
-#include "platform/numbers.h"
 #include "platform/slots.h"
+#include "platform/turkish.h"
 #include "register/student_list.h"
 
 #include <QStringMatcher>

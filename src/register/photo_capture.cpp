@@ -65,14 +65,6 @@ PhotoCapture::PhotoCapture(Kurvo& kurvo, SessionContext& session, StudentCard& c
     on(&kurvo_, &Kurvo::closing, this, [this] { StopWork(); });
 }
 
-std::vector<QWidget*> PhotoCapture::locked_controls() const {
-    std::vector<QWidget*> controls = kurvo_.student_choice();
-    controls.insert(controls.end(),
-                    {kurvo_.CommandYENI, kurvo_.CommandTAHSILAT, kurvo_.CommandDEVAMSIZLIK, kurvo_.CommandETUD,
-                     kurvo_.CommandNOT, kurvo_.CommandTOPLU, kurvo_.CommandDOSYADAN});
-    return controls;
-}
-
 void PhotoCapture::CommandFOTOac_Click() {
     if (camera_ || !holds_number(kurvo_.LONO->text())) return;
     const WaitCursor wait;
@@ -142,7 +134,7 @@ void PhotoCapture::close_camera(const QString& reason) {
 }
 
 void PhotoCapture::set_open(bool open) {
-    open ? kurvo_.kilitle(locked_controls()) : kurvo_.kilidi_ac(locked_controls());
+    open ? kurvo_.kilitle(kurvo_.student_choice()) : kurvo_.kilidi_ac(kurvo_.student_choice());
     if (menu_) menu_->close();
     kurvo_.CommandFOTOac->setEnabled(true);
     for (QPushButton* button :

@@ -37,7 +37,6 @@ private:
     using Choose = void (camera::Camera::*)(qsizetype);
     void offer(QPushButton* button, const camera::Choice& choice, Choose choose);
     void set_open(bool open);
-    std::vector<QWidget*> locked_controls() const;
 
     Kurvo& kurvo_;
     SessionContext& session_;

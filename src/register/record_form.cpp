@@ -7,6 +7,7 @@
 #include "platform/grid_view.h"
 #include "platform/numbers.h"
 #include "platform/slots.h"
+#include "platform/turkish.h"
 #include "register/record_controls.h"
 #include "register/record_lists.h"
 

@@ -2,9 +2,9 @@
 
 #include "fees/payment_forms.h"
 #include "platform/attempt.h"
-#include "platform/numbers.h"
 #include "platform/paths.h"
 #include "platform/text_file.h"
+#include "platform/turkish.h"
 
 #include <algorithm>
 

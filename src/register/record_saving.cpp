@@ -2,6 +2,7 @@
 
 #include "fees/automatic_plan.h"
 #include "fees/payment_forms.h"
+#include "fees/plan_grid.h"
 #include "platform/grid_view.h"
 #include "platform/numbers.h"
 #include "platform/prompt.h"
@@ -9,21 +10,15 @@
 #include "platform/wait_cursor.h"
 #include "register/record_controls.h"
 #include "register/record_lists.h"
+#include "session/blank_text.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {
 
 const QString attention = QStringLiteral("Dikkat");
-constexpr int amount_column = 2;
 constexpr qsizetype telephone_length = 10;
 constexpr qsizetype school_length = 40, class_length = 4, special_code_length = 3;
-
-// The tables keep one blank where a text has nothing.
-QString or_blank(const QString& text) {
-    return text.isEmpty() ? QStringLiteral(" ") : text;
-}
 
 // What a list entry "number, blank, words" and a typed number have in common.
 Money leading_number(const QString& text) {
@@ -32,7 +27,7 @@ Money leading_number(const QString& text) {
 
 std::int64_t sum_of_instalments(const GridView& plan) {
     std::int64_t sum = 0;
-    for (int row = 0; row < plan.rows(); ++row) sum += numbers::whole(plan.text(row, amount_column)).rounded();
+    for (int row = 0; row < plan.rows(); ++row) sum += numbers::whole(plan.text(row, plan_grid::tutar)).rounded();
     return sum;
 }
 

@@ -4,31 +4,20 @@
 #include "platform/prompt.h"
 #include "platform/slots.h"
 #include "platform/wait_cursor.h"
+#include "register/student_tables.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// A table that hangs on the student's number, and what stands behind the number in its key.
-struct KeyedTable {
-    const char* table;
-    const char* index;
-    std::vector<const char*> further_keys;
-};
-
-const std::vector<KeyedTable>& tables_in_order() {
-    static const std::vector<KeyedTable> tables{{"Odeme", "OVX", {"VADE"}},
-                                                {"Devam", "OTDX", {"TARIH", "DKOD"}},
-                                                {"Dmazeret", "OTX", {"TARIH"}},
-                                                {"Etud", "OTSX", {"TARIH", "SAAT"}},
-                                                {"EtudDevam", "OTDX", {"TARIH", "DKOD"}},
-                                                {"Emazeret", "OTX", {"TARIH"}},
-                                                {"Tahsilat", "OVTX", {"VADE", "TARIH", "SAAT"}}};
-    return tables;
-}
+// The payments last: the cash book is repaired behind them.
+constexpr StudentTable tables_in_order[] = {
+    student_tables::Odeme,     student_tables::Devam,    student_tables::Dmazeret, student_tables::Etud,
+    student_tables::EtudDevam, student_tables::Emazeret, student_tables::Tahsilat};
 
 // The number that a text holds and nothing else; 0 where it is no student number.
 std::int64_t student_number(const QString& text) {
@@ -39,13 +28,20 @@ std::int64_t student_number(const QString& text) {
     return valid ? digits.toLongLong() : 0;
 }
 
+// What stands behind the number in the key of a row.
 using Key = std::vector<store::Value>;
 
-std::vector<Key> further_keys(store::Recordset& rows, const KeyedTable& table, std::int64_t student) {
+std::vector<std::string> further_fields(const store::Recordset& rows, const StudentTable& table) {
+    const auto& indexes = rows.definition().indexes;
+    const auto index = std::ranges::find(indexes, std::string_view(table.index), &store::IndexDef::name);
+    return {index->fields.begin() + 1, index->fields.end()};
+}
+
+std::vector<Key> further_keys(store::Recordset& rows, const std::vector<std::string>& fields, std::int64_t student) {
     std::vector<Key> keys;
     store::scan_prefix(rows, {student}, [&] {
         Key& key = keys.emplace_back();
-        for (const char* field : table.further_keys) key.push_back(rows[field].value());
+        for (const std::string& field : fields) key.push_back(rows[field].value());
     });
     return keys;
 }
@@ -75,13 +71,13 @@ bool has_rows_of(store::Recordset& rows, std::int64_t student) {
 
 // Gives the rows of a student another number. A changed row leaves its place in the order, so its key is noted first;
 // what another workstation adds meanwhile comes over in the next turn.
-void move_rows(store::Database& term, const KeyedTable& table, std::int64_t from, std::int64_t to) {
-    store::Recordset rows = term.OpenRecordset(table.table);
-    rows.Index(table.index);
-    std::vector<Key> keys = further_keys(rows, table, from);
+void move_rows(store::Database& term, const StudentTable& table, std::int64_t from, std::int64_t to) {
+    store::Recordset rows = table.open(term);
+    const std::vector<std::string> fields = further_fields(rows, table);
+    std::vector<Key> keys = further_keys(rows, fields, from);
     if (keys.empty()) return;
     store::WriteScope scope(term);
-    for (; !keys.empty(); keys = further_keys(rows, table, from)) {
+    for (; !keys.empty(); keys = further_keys(rows, fields, from)) {
         for (const Key& key : keys) {
             if (!seek_row(rows, from, key)) continue;
             rows.Edit();
@@ -162,7 +158,7 @@ void Renumbering::refuse(const QString& words) {
 // row, so that it too is repaired when a renumbering that was cut is started again.
 void Renumbering::renumber(std::int64_t from, std::int64_t to) {
     session_.studentTable["ONO"].required();
-    for (const KeyedTable& table : tables_in_order()) move_rows(session_.termDb, table, from, to);
+    for (const StudentTable& table : tables_in_order) move_rows(session_.termDb, table, from, to);
     repair_cash_book(from, to);
     store::Recordset& students = session_.studentTable;
     students.Seek("=", {from});
@@ -174,8 +170,7 @@ void Renumbering::renumber(std::int64_t from, std::int64_t to) {
 // A cash row names the student's number in front of its text. Only collections that came over to the new number lead
 // there, in this run or in an earlier one that was cut; without any the reference database stays closed.
 void Renumbering::repair_cash_book(std::int64_t from, std::int64_t to) {
-    store::Recordset tahsilat = session_.termDb.OpenRecordset("Tahsilat");
-    tahsilat.Index("OVTX");
+    store::Recordset tahsilat = student_tables::Tahsilat.open(session_.termDb);
     if (!has_rows_of(tahsilat, to)) return;
     store::Database reference = store::OpenDatabase(session_.reference_file());
     store::WriteScope scope(reference);

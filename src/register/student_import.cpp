@@ -27,11 +27,10 @@ int column_in(const QLineEdit& box) {
 
 // Every field of the row: 0 for a number, one blank for a text.
 void fill_with_nothing(store::Recordset& row) {
+    static const store::Value blank(u" "), zero(0);
     using Type = store::FieldType;
-    for (const store::FieldDef& field : row.definition().fields) {
-        const bool is_text = field.type == Type::text || field.type == Type::memo;
-        row[field.name] = is_text ? store::Value(u" ") : store::Value(0);
-    }
+    for (const store::FieldDef& field : row.definition().fields)
+        row[field.name] = field.type == Type::text || field.type == Type::memo ? blank : zero;
     for (const char* coded : {"BOLUM", "SAVBEL"}) row[coded] = 0;  // numbers that are kept as texts
 }
 
@@ -56,7 +55,7 @@ public:
     }
 
 private:
-    static constexpr int steps = 50;
+    static constexpr int steps = 20;
     QProgressBar& bar_;
     const int step_;
 };

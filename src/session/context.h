@@ -45,6 +45,9 @@ struct SessionContext {
     QString term_file() const { return term_file(termCode); }
     QString reference_file() const { return data_file(QStringLiteral("Bilgi.mdb")); }
 
+    // lineThickness as a paper's pen takes it, in quarters of a point.
+    int line_width() const;
+
     // Whether a panel may write: a student is on the card and the number box still holds that student's number.
     bool card_is_of(const QString& number_box) const;
 };

@@ -1,11 +1,10 @@
 #include "session/hand_over.h"
 
 #include "platform/paths.h"
+#include "platform/refusal.h"
 #include "platform/text_file.h"
 
 #include <QStringList>
-
-#include <stdexcept>
 
 namespace {
 
@@ -13,16 +12,14 @@ constexpr int item_count = 18;
 
 QStringList read_hand_over() {
     if (!paths::exists(hand_over_file))
-        throw std::runtime_error(
-            QStringLiteral("%1 bulunamadı. Program ana menüden başlatılmalıdır.").arg(hand_over_file).toStdString());
+        refuse(QStringLiteral("%1 bulunamadı. Program ana menüden başlatılmalıdır.").arg(hand_over_file));
     QStringList items = text_file::read_items(hand_over_file);
     if (items.size() < item_count)
-        throw std::runtime_error(QStringLiteral("%1 eksik: %2 değer olmalı, %3 değer var. %4. değer okunamadı.")
-                                     .arg(hand_over_file)
-                                     .arg(item_count)
-                                     .arg(items.size())
-                                     .arg(items.size() + 1)
-                                     .toStdString());
+        refuse(QStringLiteral("%1 eksik: %2 değer olmalı, %3 değer var. %4. değer okunamadı.")
+                   .arg(hand_over_file)
+                   .arg(item_count)
+                   .arg(items.size())
+                   .arg(items.size() + 1));
     return items;
 }
 
@@ -42,7 +39,6 @@ QString take_hand_over(SessionContext& session) {
     session.remoteUser = items[15];
     session.remotePassword = items[16];
     session.remoteSchoolKey = items[17];
-    if (!paths::remove(hand_over_file))
-        throw std::runtime_error(QStringLiteral("%1 silinemedi.").arg(hand_over_file).toStdString());
+    if (!paths::remove(hand_over_file)) refuse(QStringLiteral("%1 silinemedi.").arg(hand_over_file));
     return items[9];
 }

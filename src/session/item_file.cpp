@@ -1,12 +1,13 @@
 #include "session/item_file.h"
 
+#include "platform/refusal.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <stdexcept>
 
-QString item_file_refusal(const QString& name, int line, const QString& why) {
-    return QStringLiteral("%1 hatalı, %2. satır: %3").arg(name).arg(line).arg(why);
+void refuse_line(const QString& name, int line, const QString& why) {
+    refuse(QStringLiteral("%1 hatalı, %2. satır: %3").arg(name).arg(line).arg(why));
 }
 
 // Empty lines that an editor left at the end are no values.
@@ -15,7 +16,7 @@ ItemFile::ItemFile(QString name) : name_(std::move(name)), items_(text_file::rea
 }
 
 void ItemFile::refuse(int line, const QString& why) const {
-    throw std::runtime_error(item_file_refusal(name_, line, why).toStdString());
+    refuse_line(name_, line, why);
 }
 
 const QString& ItemFile::at(int number, const QString& what) const {

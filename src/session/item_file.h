@@ -27,5 +27,5 @@ private:
     std::vector<text_file::Item> items_;
 };
 
-// The message of such a refusal.
-QString item_file_refusal(const QString& name, int line, const QString& why);
+// Such a refusal of the file `name`.
+[[noreturn]] void refuse_line(const QString& name, int line, const QString& why);

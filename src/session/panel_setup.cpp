@@ -1,5 +1,6 @@
 #include "session/panel_setup.h"
 
+#include "forms/column_widths.h"
 #include "forms/kurvo.h"
 #include "platform/clock.h"
 #include "platform/grid_view.h"
@@ -45,9 +46,9 @@ void set_up_search(Kurvo& kurvo) {
 }
 
 void set_up_collections(Kurvo& kurvo) {
-    kurvo.FTahsil_Tablo2->set_widths({250, 1000, 1000, 1200, 2600, 1, 1430});
+    kurvo.FTahsil_Tablo2->set_widths(column_widths::open);
     kurvo.FTahsil_Tablo2->set_rows(0);
-    kurvo.FTahsil_TABLO4->set_widths({960, 1080, 3240, 960, 960});
+    kurvo.FTahsil_TABLO4->set_widths(column_widths::chosen);
     align(kurvo.FTahsil_Tablo2, {2, 6}, Qt::AlignRight);
     align(kurvo.FTahsil_TABLO4, {3, 4}, Qt::AlignRight);
     kurvo.FTahsil_TARIH->setDate(clock_source::today());
@@ -169,7 +170,7 @@ QStringList words(const QString& text) {
 }  // namespace
 
 void set_up_list(Kurvo& kurvo) {
-    kurvo.TABLO->set_widths({500, 700, 2500});
+    kurvo.TABLO->set_widths(column_widths::list);
     kurvo.TABLO->set_rows(0);
 }
 

@@ -4,8 +4,6 @@
 #include "platform/text_file.h"
 #include "session/item_file.h"
 
-#include <stdexcept>
-
 namespace {
 
 const QString tak_file = QStringLiteral("c:\\qlm\\tak.txt");
@@ -86,9 +84,7 @@ QStringList read_kasa_tip(const SessionContext& session) {
     const QString file = session.data_file(QStringLiteral("KasaTip.txt"));
     if (!paths::exists(file)) return {QStringLiteral(" ")};
     const QStringList types = text_file::read_lines(file);
-    if (types.isEmpty())
-        throw std::runtime_error(
-            item_file_refusal(file, 1, QStringLiteral("en az bir kasa tipi yazılmalıdır.")).toStdString());
+    if (types.isEmpty()) refuse_line(file, 1, QStringLiteral("en az bir kasa tipi yazılmalıdır."));
     return types;
 }
 

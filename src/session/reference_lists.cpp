@@ -1,6 +1,6 @@
 #include "session/reference_lists.h"
 
-#include "platform/numbers.h"
+#include "platform/turkish.h"
 #include "store/record.h"
 
 #include <algorithm>

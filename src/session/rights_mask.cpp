@@ -5,19 +5,17 @@
 #include <array>
 
 void apply_rights_mask(const QString& mask, Kurvo& kurvo, SessionContext& session) {
-    constexpr int first_top = 480;  // twips
-    constexpr int button_step = 240;
     constexpr std::size_t collections = 1;
     const std::array<QPushButton*, 6> buttons{kurvo.CommandYENI, kurvo.CommandTAHSILAT, kurvo.CommandDEVAMSIZLIK,
                                               kurvo.CommandETUD, kurvo.CommandNOT,      kurvo.CommandTOPLU};
     session.collectionsAllowed = 0;
-    int top = first_top;
+    int top = Kurvo::first_button_top;
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         const bool allowed = mask.mid(static_cast<qsizetype>(i), 1) == QStringLiteral("1");
         buttons[i]->setVisible(allowed);
         if (!allowed) continue;
         if (i == collections) session.collectionsAllowed = 1;
         if (i > 0) kurvo.place_button(buttons[i], top);  // the first keeps its designed place
-        top += button_step;
+        top += Kurvo::button_step;
     }
 }

@@ -1,8 +1,7 @@
 #include "session/version_check.h"
 
+#include "platform/refusal.h"
 #include "platform/rich_text.h"
-
-#include <stdexcept>
 
 namespace {
 
@@ -29,10 +28,8 @@ bool version_matches(SessionContext& session) {
         return true;
     }
     if (versions.NoMatch())
-        throw std::runtime_error(
-            QStringLiteral("%1 dosyasının SBtab tablosunda \"RMA\" kaydı yok; veri sürümü anlaşılamıyor.")
-                .arg(file)
-                .toStdString());
+        refuse(
+            QStringLiteral("%1 dosyasının SBtab tablosunda \"RMA\" kaydı yok; veri sürümü anlaşılamıyor.").arg(file));
 
     const QString data_version = rich_text::plain(versions["SB1"].required().text());
     if (data_version.left(level_length) != program_version.left(level_length)) return false;

@@ -1,6 +1,7 @@
 #include "store/conversion.h"
 
 #include "platform/numbers.h"
+#include "platform/turkish.h"
 #include "store/messages.h"
 
 #include <cmath>

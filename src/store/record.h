@@ -140,7 +140,7 @@ private:
 
 // Many writes to one database as one commit; rolled back unless committed. Begins by waiting for the lock like
 // Edit. Scopes on one database do not nest. On files that other workstations use, hold it for less than half
-// a second, then leave the file free for 2 ms (`pause`).
+// a second, then leave the file free for 2 ms (`pause_if_due`).
 class WriteScope {
 public:
     explicit WriteScope(Database& database);

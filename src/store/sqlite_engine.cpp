@@ -1,6 +1,6 @@
 #include "store/sqlite_engine.h"
 
-#include "platform/numbers.h"
+#include "platform/turkish.h"
 #include "store/conversion.h"
 #include "store/messages.h"
 #include "store/sqlite_query.h"
@@ -213,20 +213,29 @@ void SqliteEngine::bind_all(SqliteStatement& statement, std::span<const Assignme
     for (const Assignment& assignment : values) statement.bind(++place, assignment.value);
 }
 
-RowId SqliteEngine::insert(const TableInfo& table, std::span<const Assignment> values) {
-    const std::string& name = table.definition().name;
+// Whoever adds many rows names the same fields in the same order each time: the long statement is worded once.
+SqliteStatement& SqliteEngine::inserting(const TableInfo& table, std::span<const Assignment> values) {
+    const TableDef& definition = table.definition();
+    std::string key = definition.name + ':';
+    for (const Assignment& value : values) (key += std::to_string(value.field)) += ',';
+    const auto found = inserts_.find(key);
+    if (found != inserts_.end()) return found->second;
     std::string columns, marks;
     for (const Assignment& value : values) {
-        columns += (columns.empty() ? "" : ",") +
-                   quoted_name(table.definition().fields[static_cast<std::size_t>(value.field)].name);
+        columns +=
+            (columns.empty() ? "" : ",") + quoted_name(definition.fields[static_cast<std::size_t>(value.field)].name);
         marks += marks.empty() ? "?" : ",?";
     }
-    const std::string sql = "INSERT INTO " + quoted_name(name) +
+    const std::string sql = "INSERT INTO " + quoted_name(definition.name) +
                             (values.empty() ? " DEFAULT VALUES" : " (" + columns + ") VALUES (" + marks + ")");
-    return guarded(name, [&] {
-        SqliteStatement& inserting = statement(sql);
-        bind_all(inserting, values);
-        inserting.run();
+    return inserts_.try_emplace(std::move(key), connection_.get(), sql).first->second;
+}
+
+RowId SqliteEngine::insert(const TableInfo& table, std::span<const Assignment> values) {
+    return guarded(table.definition().name, [&] {
+        SqliteStatement& statement = inserting(table, values);
+        bind_all(statement, values);
+        statement.run();
         return sqlite3_last_insert_rowid(connection_.get());
     });
 }

@@ -51,6 +51,7 @@ private:
     SqliteStatement& statement(const std::string& sql);
     void execute(const std::string& sql) { statement(sql).run(); }
     TableDef define(std::string_view name);
+    SqliteStatement& inserting(const TableInfo& table, std::span<const Assignment> values);
     void bind_all(SqliteStatement& statement, std::span<const Assignment> values);
     // Runs `action` and turns a failure of SQLite into the store's words.
     template <typename Action>
@@ -71,6 +72,7 @@ private:
     SqliteConnection connection_;  // before the statements, which must go first
     std::unordered_map<std::uint64_t, SqliteStatement> reads_;
     std::unordered_map<std::string, SqliteStatement> statements_;
+    std::unordered_map<std::string, SqliteStatement> inserts_;  // by table and fields
     std::unordered_map<std::string, TableInfo*> tables_;
     ShortTexts key_texts_;  // of rows that are compared while they are read
     std::chrono::steady_clock::time_point waiting_since_;

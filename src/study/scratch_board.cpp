@@ -1,9 +1,8 @@
 #include "study/scratch_board.h"
 
 #include "platform/paths.h"
+#include "platform/refusal.h"
 #include "session/scratch_file.h"
-
-#include <stdexcept>
 
 namespace {
 
@@ -19,10 +18,9 @@ store::Recordset create_table(store::Database& database) {
 // What is left of a run that was cut off may be another copy's work: only start-up removes it.
 ScratchBoard::Place::Place() {
     if (paths::exists(scratch_file))
-        throw std::runtime_error(QStringLiteral("Günün etüdleri hazırlanamıyor: %1 önceki bir çalışmadan kalmış. "
-                                                "Program yeniden açılırken silinir.")
-                                     .arg(scratch_file)
-                                     .toStdString());
+        refuse(QStringLiteral("Günün etüdleri hazırlanamıyor: %1 önceki bir çalışmadan kalmış. "
+                              "Program yeniden açılırken silinir.")
+                   .arg(scratch_file));
 }
 
 ScratchBoard::Place::~Place() {

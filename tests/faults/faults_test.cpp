@@ -28,7 +28,7 @@ QStringList arguments(const QString& act, int how_much, int times, int speed = 1
 // The program at an act, on the drives that the environment names.
 struct Desk : Workstation {
     Desk(const School& school, const QStringList& arguments)
-        : Workstation((school.hand_over({}), FAULTS_WORKSTATION), arguments) {}
+        : Workstation((school.hand_over({}), KURVO_DONGU), arguments) {}
     // Its words up to the one that it is ready to begin; all of them where it never comes so far.
     QString begin() {
         QString all;
@@ -124,17 +124,11 @@ struct Office {
         row = file.OpenRecordset("Odeme");
         row.Edit();
     }
-    void let_write(bool allowed) const {
-        const QFile::Permissions read = QFile::ReadOwner, write = allowed ? QFile::WriteOwner : QFile::Permissions();
-        QDir data(school.drives.path("c/okul/data"));
-        for (const QString& name : data.entryList(QDir::Files))
-            QFile::setPermissions(data.filePath(name), read | write);
-        QFile::setPermissions(data.path(), read | write | QFile::ExeOwner);
-    }
+    void let_write(const QString& who) const { QProcess::execute("chmod", {"-R", who, school.drives.path("c/okul")}); }
     void move(const QString& from, const QString& to) const { QDir(school.drives.path("c/okul")).rename(from, to); }
     void mend() {
         if (!spoilt.isEmpty()) school.drives.put(spoilt, sound);
-        let_write(true);
+        let_write("u+w");
         move("gone", "data");
         row = {}, file = {};
     }
@@ -195,7 +189,7 @@ private slots:
             prlimit(static_cast<pid_t>(desk.pid()), RLIMIT_FSIZE, &limit, nullptr);
         };
         const auto move_away = [](Office& office, const Desk&) { office.move("data", "gone"); };
-        const auto forbid = [](Office& office, const Desk&) { office.let_write(false); };
+        const auto forbid = [](Office& office, const Desk&) { office.let_write("u-w"); };
         const auto damage = [](Office& office, const Desk&) { office.spoil("c/okul/data/Bilgi.mdb"); };
         const auto lock = [](Office& office, const Desk&) { office.lock(); };
         const QString full = "Disk dolu|aygıt hatası", bad = "Dosya bozuk: c:.okul.data.",

@@ -200,7 +200,7 @@ private slots:
         struct Watch : rtf::Sink {
             std::function<qint64()> in_use;
             qint64 most = 0;
-            void run(const QString&, const rtf::Style&, const rtf::Reader&) override {}
+            void run(const QString&, const rtf::Style&, const rtf::Tables&) override {}
             void paragraph_end(rtf::Alignment) override {}
             void document_end(rtf::Alignment) override { most = in_use(); }
         };

@@ -27,15 +27,3 @@ struct Registered {
 // Runs every listed class; 1 where one failed. The main routine of a program that defines none of its own does this.
 // Names on the command line pick test functions and are tried in every class, as QtTest has them.
 int run_all(int argc, char** argv);
-
-template <typename... Tests>
-int run_these(int argc, char** argv) {
-    (Registered<Tests>(), ...);
-    return run_all(argc, argv);
-}
-
-// A main routine for classes that do not list themselves.
-#define KURVO_TEST_MAIN(...)                       \
-    int main(int argc, char** argv) {              \
-        return run_these<__VA_ARGS__>(argc, argv); \
-    }

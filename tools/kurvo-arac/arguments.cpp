@@ -5,11 +5,11 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-[[noreturn]] void wrong_use(const QString& words) {
+void wrong_use(const QString& words) {
     throw std::invalid_argument(words.toStdString());
 }
+
+namespace {
 
 const OptionDef& find_option(const std::vector<OptionDef>& options, const QString& name) {
     const auto found = std::find_if(options.begin(), options.end(), [&](const auto& one) { return one.name == name; });

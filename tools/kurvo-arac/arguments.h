@@ -13,6 +13,9 @@ struct OptionDef {
     bool repeats = false;
 };
 
+// Throws std::invalid_argument: the command line is not as a verb wants it.
+[[noreturn]] void wrong_use(const QString& words);
+
 class Arguments {
 public:
     // "--ad deger" and "--ad=deger" are the same. Throws std::invalid_argument, in Turkish, for an option that

@@ -1,6 +1,7 @@
 #include "audit.h"
 
 #include "audit_checks.h"
+#include "platform/refusal.h"
 #include "school.h"
 #include "store/snapshot.h"
 
@@ -123,7 +124,7 @@ private:
 }  // namespace
 
 std::vector<Finding> look_over(const QString& root) {
-    if (!school::exists(root)) throw std::runtime_error((u"Burada okul yok: "_s + root).toStdString());
+    if (!school::exists(root)) refuse(u"Burada okul yok: "_s + root);
     return Audit(root).run();
 }
 

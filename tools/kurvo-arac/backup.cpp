@@ -2,6 +2,7 @@
 
 #include "platform/clock.h"
 #include "platform/paths.h"
+#include "platform/refusal.h"
 #include "platform/text_file.h"
 #include "school.h"
 #include "store/snapshot.h"
@@ -23,10 +24,6 @@ namespace {
 
 const QString note_file = u"yedek.txt"_s;
 const QString note_heading = u"Kurvo yedeği"_s;
-
-[[noreturn]] void refuse(const QString& words) {
-    throw std::runtime_error(words.toStdString());
-}
 
 QString native_folder(const QString& name) {
     return QDir::cleanPath(QFileInfo(paths::native(name)).absoluteFilePath());

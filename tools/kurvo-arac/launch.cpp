@@ -1,6 +1,7 @@
 #include "launch.h"
 
 #include "platform/paths.h"
+#include "platform/refusal.h"
 #include "platform/text_file.h"
 #include "school.h"
 #include "store/record.h"
@@ -10,8 +11,6 @@
 #include <QProcess>
 #include <QThread>
 
-#include <stdexcept>
-
 using namespace Qt::StringLiterals;
 
 namespace launch {
@@ -20,10 +19,6 @@ namespace {
 // A slow share and a cold disk included.
 constexpr int start_limit_ms = 30000;
 constexpr int look_again_ms = 20;
-
-[[noreturn]] void refuse(const QString& words) {
-    throw std::runtime_error(words.toStdString());
-}
 
 void note_running_program() {
     school::create_programs_file();

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum ExitStatus { done = 0, refused = 1, wrong_use = 2 };
+enum ExitStatus { done = 0, refused = 1, misused = 2 };
 
 void print(std::FILE* stream, const QString& text) {
     std::fputs((text + u'\n').toUtf8().constData(), stream);
@@ -43,7 +43,7 @@ int run(const Verb& verb, const QStringList& words) {
     } catch (const std::invalid_argument& error) {
         print(stderr, QString::fromUtf8(error.what()));
         print(stderr, u"Kullanım: kurvo-arac "_s + usage_of(verb));
-        return wrong_use;
+        return misused;
     } catch (const std::exception& error) {
         print(stderr, QString::fromUtf8(error.what()));
         return refused;
@@ -57,13 +57,13 @@ int main(int argc, char** argv) {
     const QStringList words = QCoreApplication::arguments().sliced(1);
     if (words.isEmpty() || words.first() == u"--help"_s) {
         print(words.isEmpty() ? stderr : stdout, overall_help());
-        return words.isEmpty() ? wrong_use : done;
+        return words.isEmpty() ? misused : done;
     }
     const auto same = [&](const Verb& verb) { return verb.name == words.first(); };
     const auto verb = std::find_if(verbs().begin(), verbs().end(), same);
     if (verb == verbs().end()) {
         print(stderr, u"Böyle bir fiil yok: "_s + words.first());
-        return wrong_use;
+        return misused;
     }
     return run(*verb, words.sliced(1));
 }

@@ -1,13 +1,12 @@
 #include "sample_photo.h"
 
 #include "platform/paths.h"
+#include "platform/refusal.h"
 #include "random.h"
 
-#include <QColor>
 #include <QImage>
 
 #include <array>
-#include <stdexcept>
 
 namespace sample {
 namespace {
@@ -56,8 +55,7 @@ void draw_photo(const QString& path, bool long_hair, Random random) {
     const Face face{random.between(14, 17), random.between(19, 22), long_hair};
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) image.setPixel(x, y, ink_at(x, y, face));
-    if (!image.save(paths::native(path), "BMP"))
-        throw std::runtime_error(QStringLiteral("Fotoğraf yazılamadı: %1").arg(path).toStdString());
+    if (!image.save(paths::native(path), "BMP")) refuse(QStringLiteral("Fotoğraf yazılamadı: %1").arg(path));
 }
 
 }  // namespace sample

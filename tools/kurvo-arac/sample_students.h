@@ -5,8 +5,6 @@
 #include "sample.h"
 #include "store/record.h"
 
-#include <vector>
-
 namespace sample {
 
 struct Student {

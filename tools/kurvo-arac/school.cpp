@@ -1,12 +1,11 @@
 #include "school.h"
 
 #include "platform/paths.h"
+#include "platform/refusal.h"
 #include "platform/rich_text.h"
 #include "store/record.h"
 
 #include <QDir>
-
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -17,10 +16,6 @@ namespace {
 const QString data_version = u"21.1"_s;
 const QString version_key = u"RMA"_s;
 const QString term_ending = u"ogr.mdb"_s;
-
-[[noreturn]] void refuse(const QString& words) {
-    throw std::runtime_error(words.toStdString());
-}
 
 void make_folder(const QString& name) {
     if (!QDir().mkpath(paths::native(name))) refuse(u"Klasör açılamadı: "_s + name);

@@ -3,18 +3,14 @@
 #include "audit.h"
 #include "backup.h"
 #include "console.h"
+#include "platform/refusal.h"
 #include "school.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString root_of(const Arguments& arguments) {
-    return school::folder(arguments.value(u"kok"_s, school::default_root));
-}
 
 void check_school(const Arguments& arguments) {
     const std::vector<audit::Finding> findings =
@@ -24,7 +20,7 @@ void check_school(const Arguments& arguments) {
     const auto faults = std::ranges::count(findings, true, &audit::Finding::fault);
     const auto notices = static_cast<qsizetype>(findings.size()) - faults;
     const QString sum = u"%1 hata, %2 uyarı bulundu."_s.arg(faults).arg(notices);
-    if (faults > 0) throw std::runtime_error(sum.toStdString());
+    if (faults > 0) refuse(sum);
     console::say(sum + u'\n');
 }
 
@@ -40,13 +36,11 @@ void put_back(const Arguments& arguments) {
     const QString question =
         u"%1 okulu, %2 tarihli yedeğe döndürülecek; o tarihten sonra girilenler silinir.\n"
         u"Önce bütün iş istasyonlarında programı kapatın. Devam edilsin mi?"_s.arg(root, backup::taken_at(source));
-    if (!arguments.has(u"evet"_s) && !console::agrees(question)) throw std::runtime_error("Vazgeçildi.");
+    if (!arguments.has(u"evet"_s) && !console::agrees(question)) refuse(u"Vazgeçildi."_s);
     const QStringList left = backup::put_back(source, root);
     console::say(u"Yedek geri yüklendi: %1\n"_s.arg(root));
     if (!left.isEmpty()) console::say(u"Yedekte olmayan dosyalar olduğu gibi kaldı: %1\n"_s.arg(left.join(u", "_s)));
 }
-
-const OptionDef root_option{u"kok"_s, u"KÖK"_s};
 
 }  // namespace
 

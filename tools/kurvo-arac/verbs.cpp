@@ -10,15 +10,11 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
-#include <stdexcept>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-[[noreturn]] void wrong_use(const QString& words) {
-    throw std::invalid_argument(words.toStdString());
-}
 
 template <typename Number>
 Number whole_number(const Arguments& arguments, const QString& option, const QString& fallback) {
@@ -33,10 +29,6 @@ Number whole_number(const Arguments& arguments, const QString& option, const QSt
 void check(const QString& option, const QString& value, const QString& pattern) {
     if (!QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(value).hasMatch())
         wrong_use(u"--%1 böyle olamaz: %2"_s.arg(option, value));
-}
-
-QString root_of(const Arguments& arguments) {
-    return school::folder(arguments.value(u"kok"_s, school::default_root));
 }
 
 void fill_sample(const QString& root, const QStringList& terms, int students, std::uint64_t seed, bool new_school) {
@@ -117,8 +109,6 @@ void load_table(const Arguments& arguments) {
                                       arguments.has(u"bosalt"_s));
     console::say(u"%1 kayıt eklendi.\n"_s.arg(rows));
 }
-
-const OptionDef root_option{u"kok"_s, u"KÖK"_s};
 
 std::vector<Verb> daily_verbs() {
     return {{u"kur"_s,
@@ -206,6 +196,10 @@ const std::vector<Verb>& verbs() {
         return verbs;
     }();
     return all;
+}
+
+QString root_of(const Arguments& arguments) {
+    return school::folder(arguments.value(u"kok"_s, school::default_root));
 }
 
 QString usage_of(const Verb& verb) {

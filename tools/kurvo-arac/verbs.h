@@ -20,5 +20,9 @@ struct Verb {
 
 const std::vector<Verb>& verbs();
 
+// The root of the school that a verb works on, with one backslash at its end, and the option that tells it.
+inline const OptionDef root_option{QStringLiteral("kok"), QStringLiteral("KÖK")};
+QString root_of(const Arguments& arguments);
+
 // "kur [--kok KÖK] [--donem KOD]…": a verb with what may stand behind it.
 QString usage_of(const Verb& verb);

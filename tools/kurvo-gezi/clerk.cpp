@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QFile>
+#include <QListWidget>
 #include <QRadioButton>
 #include <QTest>
 
@@ -15,6 +17,11 @@ namespace {
 
 QStringList papers_in(const QDir& folder) {
     return folder.entryList({u"*.pdf"_s}, QDir::Files, QDir::Time | QDir::Reversed);
+}
+
+// A layout of keys has not all letters, so they come without a key.
+void send_letters(QWidget* box, const QString& text) {
+    for (const QChar letter : text) QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, letter, {});
 }
 
 QPoint place_of(const GridView& grid, int row, int column) {
@@ -59,7 +66,7 @@ void Clerk::type(QLineEdit* box, const QString& text, Qt::Key then) {
     reach(box);
     box->setFocus(Qt::MouseFocusReason);
     box->selectAll();
-    for (const QChar letter : text) QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, letter, {});
+    send_letters(box, text);
     if (then != Qt::Key_unknown) QTest::keyClick(box, then);
 }
 
@@ -99,6 +106,26 @@ void Clerk::type_date(DatePicker* box, const QString& shown) {
     QTest::keyClicks(box, shown);
     QTest::keyClick(box, Qt::Key_Tab);
     must(dates::shown(box->date()) == shown, box->objectName() + u" does not take "_s + shown);
+}
+
+void Clerk::type_note(const QString& text) {
+    reach(kurvo().Text1);
+    send_letters(kurvo().Text1, text);
+}
+
+void Clerk::import_students(const QByteArray& table, const QStringList& lines) {
+    QFile file(folder_.filePath(u"yeni-ogrenciler.csv"_s));
+    must(file.open(QIODevice::WriteOnly) && file.write(table) == table.size(), u"the workbook cannot be written"_s);
+    file.close();
+    press(kurvo().CommandDOSYADAN);
+    type(kurvo().ONAME, file.fileName());
+    int column = 0;
+    for (const std::size_t box : {0, 1, 2, 3, 9}) type(kurvo().bas[box], QString::number(++column));
+    press(kurvo().CommandAKTAR);
+    QStringList said;
+    for (int i = 0; i < kurvo().ListA->count(); ++i) said += kurvo().ListA->item(i)->text();
+    must(said == lines, said.join(u"; "));
+    file.remove();
 }
 
 void Clerk::resize(const QSize& size) {

@@ -36,6 +36,11 @@ public:
     void double_click_cell(GridView& grid, int row, int column);
     void choose(QComboBox* list, int position);             // by the arrow keys
     void type_date(DatePicker* box, const QString& shown);  // "05.10.2026", then Tab
+    void type_note(const QString& text);                    // at the caret of the note
+
+    // Imports the students of a table of semicolons: first name, last name, number, class group and the guardian's
+    // telephone. `lines` must be what the panel says of it.
+    void import_students(const QByteArray& table, const QStringList& lines);
 
     void resize(const QSize& size);  // of the active window
     // Grabs the active window; returns the file's path.

@@ -6,7 +6,6 @@
 #include <QApplication>
 
 #include <cstdio>
-#include <memory>
 
 namespace {
 

@@ -40,8 +40,7 @@ void StudentFile::write_note() {
     clerk_.press(kurvo_.CommandSAATEKLE);
     kurvo_.Text1->setFocus();
     clerk_.press(kurvo_.CheckBold);
-    for (const QChar letter : u"Velisiyle görüşüldü: ödev takibi isteniyor."_s)
-        QTest::sendKeyEvent(QTest::Click, kurvo_.Text1, Qt::Key_unknown, letter, {});
+    clerk_.type_note(u"Velisiyle görüşüldü: ödev takibi isteniyor."_s);
     clerk_.prompts().expect(u"Kaydedildi."_s);
     clerk_.press(kurvo_.CommandNot_EKLE);
 }

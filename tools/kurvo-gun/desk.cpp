@@ -4,7 +4,6 @@
 
 #include <QTest>
 
-#include <cstdio>
 #include <iostream>
 #include <string>
 

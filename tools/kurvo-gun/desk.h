@@ -3,8 +3,6 @@
 
 #include "walk.h"
 
-#include <memory>
-
 enum class Paper { none, receipt, invoice, plan };
 
 // One collection as the clerk takes it; what is empty is left as the program proposes it.

@@ -1,7 +1,7 @@
 // The first desk: enters two students, then collects, enters the absences of a class, renumbers, looks into last year.
 #include "desk.h"
 
-#include <QTest>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -122,8 +122,7 @@ void write_note(Desk& desk) {
     desk.clerk.type(kurvo.SAAT, u"14:05"_s);
     desk.clerk.press(kurvo.CommandSAATEKLE);
     desk.clerk.press(kurvo.CheckBold);
-    for (const QChar letter : u"Velisi arandı."_s)
-        QTest::sendKeyEvent(QTest::Click, kurvo.Text1, Qt::Key_unknown, letter, {});
+    desk.clerk.type_note(u"Velisi arandı."_s);
     desk.clerk.prompts().expect(u"Kaydedildi."_s);
     desk.clerk.press(kurvo.CommandNot_EKLE);
     must(kurvo.FToplu_Text1->toHtml().contains(u"font-weight"), u"the note has lost its bold"_s);

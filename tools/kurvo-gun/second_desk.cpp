@@ -1,8 +1,7 @@
 // The second desk: collects, enters a student, books study sessions, takes a new class and a student of last year in.
 #include "desk.h"
 
-#include <QFile>
-#include <QListWidget>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -104,23 +103,10 @@ void change_sessions(Desk& desk) {
 }
 
 void import_class(Desk& desk) {
-    Kurvo& kurvo = desk.kurvo;
-    const QString file = desk.clerk.folder().filePath(u"11C.csv"_s);
-    QFile table(file);
-    must(table.open(QIODevice::WriteOnly), u"the workbook cannot be written"_s);
-    table.write(
-        "Elif;Akın;2001;11C;0505 1112233\nMert;Koç;2002;11C;0505.1112244\n;Kaya;2003;11C;\nUmut;Kaya;1006;11C;\n");
-    table.close();
-    desk.clerk.press(kurvo.CommandDOSYADAN);
-    desk.clerk.type(kurvo.ONAME, file);
-    int column = 0;
-    for (const std::size_t box : {0, 1, 2, 3, 9}) desk.clerk.type(kurvo.bas[box], QString::number(++column));
-    desk.clerk.press(kurvo.CommandAKTAR);
-    QStringList lines;
-    for (int i = 0; i < kurvo.ListA->count(); ++i) lines += kurvo.ListA->item(i)->text();
-    must(lines == QStringList{u"3. satırda ad soyad yok"_s, u"4. satırda mükerrer numara"_s,
-                              u"Okunan kayıt sayısı : 5"_s, u"Yazılan kayıt sayısı : 2"_s},
-         lines.join(u"; "));
+    desk.clerk.import_students(
+        "Elif;Akın;2001;11C;0505 1112233\nMert;Koç;2002;11C;0505.1112244\n;Kaya;2003;11C;\nUmut;Kaya;1006;11C;\n",
+        {u"3. satırda ad soyad yok"_s, u"4. satırda mükerrer numara"_s, u"Okunan kayıt sayısı : 5"_s,
+         u"Yazılan kayıt sayısı : 2"_s});
 }
 
 void take_student_of_last_year(Desk& desk) {

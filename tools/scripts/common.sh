@@ -25,7 +25,7 @@ install_packages() {
   as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
-# configure_and_build PRESET: leaves the preset's build folder in `folder`.
+# configure_and_build PRESET [TARGET...]: everything without targets; leaves the preset's build folder in `folder`.
 configure_and_build() {
   case "$1" in
     release) folder=build ;;
@@ -33,5 +33,6 @@ configure_and_build() {
     *) folder=build/$1 ;;
   esac
   cmake --preset "$1" --log-level=WARNING
-  cmake --build "$folder"
+  shift
+  cmake --build "$folder" ${@:+--target "$@"}
 }

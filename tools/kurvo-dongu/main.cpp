@@ -1,6 +1,6 @@
 // A workstation that does one act over and over, without a person and without pictures:
 //
-//   faults_workstation post|save|renumber|import NUMBER AMOUNT TIMES SPEED BEGINNING
+//   kurvo-dongu post|save|renumber|import NUMBER AMOUNT TIMES SPEED BEGINNING
 //
 // NUMBER is the first student, AMOUNT what is paid or how many rows are imported, SPEED that of its clock, which stood
 // at 9 o'clock at BEGINNING (ms of the machine's clock); 1 is the machine's own. It says "ready", goes on at a line
