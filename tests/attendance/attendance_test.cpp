@@ -2,6 +2,7 @@
 #include "platform/date_picker.h"
 #include "platform/prompt.h"
 #include "register/program.h"
+#include "support/grids.h"
 #include "support/run_all.h"
 #include "support/school.h"
 
@@ -33,10 +34,6 @@ struct Roll : School {
         choose(number);
         QTest::mouseClick(kurvo.CommandDEVAMSIZLIK, Qt::LeftButton);
     }
-    static void click(const GridView& at, int row, int column) {
-        const QPoint place = at.viewport()->mapFrom(at.parentWidget(), at.cell_rect(row, column).center());
-        QTest::mouseClick(at.viewport(), Qt::LeftButton, {}, place);
-    }
     // Where the focus is: L R U D are the arrows, X Delete, B Backspace, E Esc, ! Enter.
     static void keys(const QString& typed) {
         const QString names = "LRUDXBE!";
@@ -46,16 +43,8 @@ struct Roll : School {
             QTest::keyClick(QApplication::focusWidget(),
                             names.contains(key) ? keys[names.indexOf(key)] : Qt::Key(key.toUpper().unicode()));
     }
-    static QStringList rows_of(const GridView& of, int first = 1) {
-        QStringList all;
-        for (int row = 1; row < of.rows(); ++row) {
-            all << of.text(row, first);
-            for (int column = first + 1; column < of.columns(); ++column) all.last() += u'|' + of.text(row, column);
-        }
-        return all;
-    }
     // The panel's rows, then its excuse.
-    QString day() const { return (rows_of(grid) + QStringList(kurvo.MAZERET->text())).join(' '); }
+    QString day() const { return (grid_rows(grid, 1, 1) + QStringList(kurvo.MAZERET->text())).join(' '); }
     QStringList stored() const { return rows("Devam", {"TARIH", "DKOD", "IZINLI", "IZINSIZ", "RAPORLU"}); }
 };
 
@@ -73,13 +62,13 @@ private slots:
             .absence("20261123", "FZ", 9, 0, 0);
         roll.open_panel("1250");
         QCOMPARE(roll.day(), "Fizik||| Kimya||| Matematik|3||1 ||2| ");
-        roll.click(roll.grid, 3, 2);
+        click_cell(roll.grid, 3, 2);
         roll.keys("1a-B");  // before the 3
         roll.keys("LXUR2RR4UU5E7");
         QVERIFY(roll.box.isHidden() && roll.grid.hasFocus());
         QCOMPARE(roll.day(), "Fizik|||5 Kimya||2|4 Matematik|3||1 ||2| ");
         // On a lesson's name its first counter opens; a key of the grid begins the text anew.
-        roll.click(roll.grid, 4, 1);
+        click_cell(roll.grid, 4, 1);
         roll.grid.setFocus();
         roll.keys("x60!");
         const QStringList saved{"20261123|FZ|9|0|0", "20261124|FZ|0|0|5", "20261124|KM|0|2|4", "20261124|MT|3|0|1",
@@ -99,7 +88,7 @@ private slots:
         for (const QString& number : {QString("7"), QString("1250")}) {
             roll.choose(number);
             QCOMPARE(roll.day(), "Fizik||| Kimya||| Matematik||| ");
-            roll.click(roll.grid, 1, 2);
+            click_cell(roll.grid, 1, 2);
             roll.keys("2!");
         }
         roll.choose("7");
@@ -146,7 +135,7 @@ private slots:
         roll.student(1250);
         roll.student(7).absence(today, "FZ", 1, 0, 0);
         roll.open_panel("7");
-        roll.click(roll.grid, 2, 3);
+        click_cell(roll.grid, 2, 3);
         roll.choose("1250");
         roll.box.setText("8");
         QCOMPARE(roll.day(), "Fizik||| Kimya||| Matematik||| ");
@@ -174,25 +163,25 @@ private slots:
         Kurvo& kurvo = roll.kurvo;
         const GridView& days = *kurvo.FToplu_DEVAMS;
         const auto shown = [&] {
-            return roll.rows_of(days, 0) << kurvo.FToplu_TOP1->text() + kurvo.FToplu_TOP2->text() +
-                                                kurvo.FToplu_TOP3->text();
+            return grid_rows(days, 1) << kurvo.FToplu_TOP1->text() + kurvo.FToplu_TOP2->text() +
+                                             kurvo.FToplu_TOP3->text();
         };
-        QCOMPARE(roll.rows_of(*kurvo.FToplu_DERSLER), QStringList({"Fizik|||", "Kimya|||", "Matematik|3|1|"}));
+        QCOMPARE(grid_rows(*kurvo.FToplu_DERSLER, 1, 1), QStringList({"Fizik|||", "Kimya|||", "Matematik|3|1|"}));
         QCOMPARE(shown(), QStringList({"23.11.2026|2|1|0|Matematik|", "24.11.2026|1|0|0|Matematik|grip",
                                        "24.11.2026|0|0|4||grip", "314"}));
-        QCOMPARE(roll.rows_of(*kurvo.FToplu_DERSLERe), QStringList({"Fizik||1|", "Kimya|||", "Matematik|5||"}));
-        QCOMPARE(roll.rows_of(*kurvo.FToplu_DEVAMSe, 0).last(), "25.11.2026|5|0|0|Matematik|nöbet");
+        QCOMPARE(grid_rows(*kurvo.FToplu_DERSLERe, 1, 1), QStringList({"Fizik||1|", "Kimya|||", "Matematik|5||"}));
+        QCOMPARE(grid_rows(*kurvo.FToplu_DEVAMSe, 1).last(), "25.11.2026|5|0|0|Matematik|nöbet");
         prompt::Script prompts;
         prompts.expect("grip");
         kurvo.panel_goster(Kurvo::Panel::Toplu);
-        for (const int row : {1, 2}) roll.click(days, row, 0);
+        for (const int row : {1, 2}) click_cell(days, row, 0);
         QCOMPARE(prompts.seen(), QStringList("24.11.2026 Tarihindeki Mazereti|grip"));
         // The lesson's hours of the study sessions: the table in memory holds these.
-        roll.click(*kurvo.FToplu_DERSLER, 3, 1);
+        click_cell(*kurvo.FToplu_DERSLER, 3, 1);
         QCOMPARE(shown(), QStringList({"25.11.2026|5|0|0||", "500"}));
         QCOMPARE(days.text(0, 0) + days.text(0, 4), "  Tarih");
         emit kurvo.SDONEM->activated(0);
-        roll.click(*kurvo.FToplu_DERSLER, 3, 3);
+        click_cell(*kurvo.FToplu_DERSLER, 3, 3);
         QCOMPARE(shown(), QStringList("000"));
     }
 };

@@ -66,11 +66,6 @@ void Till::type(QLineEdit* box, const QString& keys) {
     QTest::keyClicks(box, keys);
 }
 
-void Till::click_cell(GridView& grid, int row, int column) {
-    const QPoint place = grid.viewport()->mapFrom(grid.parentWidget(), grid.cell_rect(row, column).center());
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place);
-}
-
 QStringList Till::marks() const {
     QStringList all;
     for (int row = 0; row < kurvo.FTahsil_Tablo2->rows(); ++row)

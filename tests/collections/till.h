@@ -6,6 +6,7 @@
 #include "collections/statement.h"
 #include "platform/print_surface.h"
 #include "session/terms.h"
+#include "support/grids.h"
 #include "support/school.h"
 
 #include <vector>
@@ -52,5 +53,4 @@ public:
 
 private:
     void type(QLineEdit* box, const QString& keys);
-    static void click_cell(GridView& grid, int row, int column);
 };

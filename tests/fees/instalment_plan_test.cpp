@@ -1,15 +1,10 @@
 #include "plan_desk.h"
+#include "support/grids.h"
 #include "support/run_all.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString grid_row(const GridView& grid, int row) {
-    QStringList texts;
-    for (int column = 0; column < grid.columns(); ++column) texts << grid.text(row, column);
-    return texts.join(u'|');
-}
 
 // Two unpaid instalments around one that 300 was paid on.
 std::vector<Instalment> three_instalments() {

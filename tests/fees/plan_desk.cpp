@@ -7,10 +7,6 @@ namespace {
 const QString term_file = QStringLiteral("c:\\okul\\data\\2026ogr.mdb");
 constexpr int student = 1250;
 
-QPoint place_of(const GridView& grid, int row) {
-    return grid.viewport()->mapFrom(grid.parentWidget(), grid.cell_rect(row, 1).center());
-}
-
 }  // namespace
 
 PlanDesk::Office::Office() {
@@ -77,13 +73,4 @@ void PlanDesk::enter(const QString& vade, const QString& amount) {
     form.TUTAR->setFocus();
     form.TUTAR->clear();
     QTest::keyClicks(form.TUTAR, amount);
-}
-
-void PlanDesk::click_row(int row) const {
-    QTest::mouseClick(form.TABLO2->viewport(), Qt::LeftButton, {}, place_of(*form.TABLO2, row));
-}
-
-void PlanDesk::double_click_row(int row) const {
-    click_row(row);
-    QTest::mouseDClick(form.TABLO2->viewport(), Qt::LeftButton, {}, place_of(*form.TABLO2, row));
 }

@@ -5,8 +5,7 @@
 #include "platform/clock.h"
 #include "platform/prompt.h"
 #include "support/drives.h"
-
-#include <QTest>
+#include "support/grids.h"
 
 #include <vector>
 
@@ -34,8 +33,8 @@ public:
     QString row(const QString& vade, std::string_view field) const;
 
     void enter(const QString& vade, const QString& amount);  // into the entry row
-    void click_row(int row) const;
-    void double_click_row(int row) const;
+    void click_row(int row) const { click_cell(*form.TABLO2, row, 1); }
+    void double_click_row(int row) const { click_cell(*form.TABLO2, row, 1, true); }
     static void press(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
 
     KurvoYeni form;

@@ -1,5 +1,5 @@
-#include "platform/grid_view.h"
 #include "student_page.h"
+#include "support/grids.h"
 
 #include <QHeaderView>
 
@@ -25,16 +25,6 @@ void collect(School& school) {
     row(12, "20261001", "20261120", 0, " ");
     row(12, "20261101", "20261102", 3, "M");
     row(121, "20261001", "20261002", 4, "M");
-}
-
-QStringList lines(const GridView& grid) {
-    QStringList all;
-    for (int row = 0; row < grid.rows(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < grid.columns(); ++column) cells << grid.text(row, column);
-        all << cells.join(u'|');
-    }
-    return all;
 }
 
 }  // namespace
@@ -83,7 +73,7 @@ private slots:
         let_go();
         collect(page.school);
         hold({200, 10});
-        QCOMPARE(lines(*page.kurvo.FToplu_TABLO3),
+        QCOMPARE(grid_rows(*page.kurvo.FToplu_TABLO3, 0),
                  QStringList({"Tarih|Ödenen|Belge No|BTip|Kasa Fiş No", "05.10.2026|1.250,5|41|M|K7",
                               "06.11.2026|400|F9|F|K7", "20.11.2026||41| |K7"}));
         QVERIFY(popup.isVisible());
@@ -101,7 +91,7 @@ private slots:
         QVERIFY(!popup.isVisible());
 
         QTest::mousePress(grid.horizontalHeader()->viewport(), Qt::RightButton);
-        QCOMPARE(lines(collected).size(), 4);  // of the current row still
+        QCOMPARE(collected.rows(), 4);  // of the current row still
         page.kurvo.panel_goster(Kurvo::Panel::Not);
         QVERIFY(!popup.isVisible());
     }

@@ -75,11 +75,6 @@ void Desk::type_number(const QString& number, Qt::Key then) {
     QTest::keyClick(kurvo.LONO, then);
 }
 
-void Desk::click_cell(const GridView& grid, int row, int column) {
-    const QPoint place = grid.viewport()->mapFrom(grid.parentWidget(), grid.cell_rect(row, column).center());
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place);
-}
-
 QStringList Desk::column(const GridView& grid, int column) {
     QStringList texts;
     for (int row = 0; row < grid.rows(); ++row) texts << grid.text(row, column);

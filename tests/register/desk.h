@@ -7,6 +7,7 @@
 #include "register/name_search.h"
 #include "register/record_window.h"
 #include "session/terms.h"
+#include "support/grids.h"
 #include "support/run_all.h"
 #include "support/school.h"
 
@@ -26,7 +27,6 @@ public:
     static void press(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
     static void choose(QComboBox* list, const QString& entry);
     void type_number(const QString& number, Qt::Key then = Qt::Key_Return);  // into the main form's number box
-    static void click_cell(const GridView& grid, int row, int column);
     void click_heading(std::size_t column) { QTest::mouseClick(kurvo.bslk[column], Qt::LeftButton); }
     // The texts of a column from top to bottom.
     static QStringList column(const GridView& grid, int column);

@@ -26,7 +26,7 @@ private slots:
 
         GridView& list = *desk.kurvo.TABLO;
         desk.click_heading(2);
-        Desk::click_cell(list, 1, 2);
+        click_cell(list, 1, 2);
         QCOMPARE(desk.kurvo.LONO->text(), "2");
         QCOMPARE(desk.kurvo.LADSOYAD->text(), "ÇAĞLA");
         QTest::keyClick(&list, Qt::Key_Down);
@@ -102,7 +102,7 @@ private slots:
         QTest::keyClick(desk.kurvo.FSBUL_soyad, Qt::Key_Return);
         const QStringList hits = Desk::column(*desk.kurvo.TABLO_SBUL, 1);
         QTEST(hits, "expected");
-        Desk::click_cell(*desk.kurvo.TABLO_SBUL, 0, 2);
+        click_cell(*desk.kurvo.TABLO_SBUL, 0, 2);
         QCOMPARE(desk.kurvo.LONO->text(), hits[0]);
         QCOMPARE(QString::number(desk.session.shownStudent), hits[0]);
     }

@@ -3,6 +3,7 @@
 #include "platform/prompt.h"
 #include "platform/slots.h"
 #include "register/program.h"
+#include "support/grids.h"
 #include "support/run_all.h"
 #include "support/school.h"
 
@@ -41,18 +42,6 @@ struct Desk {
     }
     void show_student(int number) { type(kurvo.LONO, QString::number(number), Qt::Key_Return); }
     void open_panel() { QTest::mouseClick(kurvo.CommandETUD, Qt::LeftButton); }
-    static void click(const GridView* grid, int row, int column, bool twice = false) {
-        const QPoint place = grid->viewport()->mapFrom(grid->parentWidget(), grid->cell_rect(row, column).center());
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, place);
-        if (twice) QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, place);
-    }
-    // The rows under the heading, their cells joined by "|".
-    static QStringList rows(const GridView* grid) {
-        QStringList all;
-        for (int row = 1, column = 0; row < grid->rows(); ++row, column = 0)
-            for (all << grid->text(row, 0); ++column < grid->columns();) all.last() += u'|' + grid->text(row, column);
-        return all;
-    }
     QStringList etud() const {
         return school.rows("Etud", {"ONO", "TARIH", "SAAT", "BITSAAT", "KOD", "SICIL", "GIRDI", "KONU"});
     }
@@ -95,9 +84,9 @@ private slots:
         QTest::keyClick(kurvo.LONO, Qt::Key_Return);
         QVERIFY(kurvo.LONO->hasFocus());
         QCOMPARE(desk.etud(), QStringList({"1250|20261124|0700|2459|MT|7| | ", "1251|20261124|0700|2459|MT|7| | "}));
-        QCOMPARE(desk.rows(kurvo.FEtud_Tablo1), QStringList("24.11.2026|07:00|24:59|Matematik|AYŞE (VEKİL)| "));
-        QCOMPARE(desk.rows(kurvo.FEtud_Tablo2), QStringList("07:00|24:59|Matematik|2|AYŞE (VEKİL)| "));
-        QCOMPARE(desk.rows(kurvo.FToplu_DERSLER_ETUD), QStringList({"FZ|Fizik||", "MT|Matematik|1|1"}));
+        QCOMPARE(grid_rows(*kurvo.FEtud_Tablo1, 1), QStringList("24.11.2026|07:00|24:59|Matematik|AYŞE (VEKİL)| "));
+        QCOMPARE(grid_rows(*kurvo.FEtud_Tablo2, 1), QStringList("07:00|24:59|Matematik|2|AYŞE (VEKİL)| "));
+        QCOMPARE(grid_rows(*kurvo.FToplu_DERSLER_ETUD, 1), QStringList({"FZ|Fizik||", "MT|Matematik|1|1"}));
     }
 
     // What was attended keeps its mark and stays; with another number in the box it would be nobody's.
@@ -108,40 +97,40 @@ private slots:
         desk.show_student(1250);
         desk.open_panel();
         kurvo.FEtud_DKOD->setCurrentIndex(0);
-        desk.click(kurvo.FEtud_Tablo2, 1, 2);
+        click_cell(*kurvo.FEtud_Tablo2, 1, 2);
         QCOMPARE(kurvo.FEtud_DKOD->currentText() + kurvo.FEtud_SICIL->currentText(), "Fizik   (FZ)BARIŞ  (12)");
-        desk.click(kurvo.FEtud_Tablo2, 2, 5);
+        click_cell(*kurvo.FEtud_Tablo2, 2, 5);
         QTest::keyClick(kurvo.FEtud_SAAT, Qt::Key_Return);
         QVERIFY(kurvo.FEtud_SAAT->hasFocus());
         const QString changed = "1250|20261124|0900|1030|MT|7|X| ", other = "1251|20261124|0900|1030|MT|7| | ";
         QCOMPARE(desk.etud(), QStringList({changed, "1250|20261124|1100|1200|FZ|12| | ", other}));
 
         desk.prompts.expect("Öğrenci etüdü almış, silinemez.");
-        desk.click(kurvo.FEtud_Tablo1, 1, 0, true);
+        click_cell(*kurvo.FEtud_Tablo1, 1, 0, true);
         QCOMPARE(desk.prompts.seen(), QStringList("Dikkat|Öğrenci etüdü almış, silinemez."));
         kurvo.LONO->setText("1251");
         kurvo.FEtud_SAAT->setText("10");
         kurvo.CommanOK->click();
-        desk.click(kurvo.FEtud_Tablo1, 2, 0, true);
+        click_cell(*kurvo.FEtud_Tablo1, 2, 0, true);
         QCOMPARE(desk.etud().size(), 3);
         kurvo.LONO->setText("1250");
         QTest::keyClick(kurvo.FEtud_Tablo1, Qt::Key_Delete, Qt::ControlModifier);
         QCOMPARE(desk.etud(), QStringList({changed, other}));
-        QCOMPARE(desk.rows(kurvo.FEtud_Tablo1), QStringList("24.11.2026|09:00|10:30|Matematik|AYŞE (VEKİL)| "));
-        QCOMPARE(desk.rows(kurvo.FEtud_Tablo2), QStringList("09:00|10:30|Matematik|2|AYŞE (VEKİL)| "));
+        QCOMPARE(grid_rows(*kurvo.FEtud_Tablo1, 1), QStringList("24.11.2026|09:00|10:30|Matematik|AYŞE (VEKİL)| "));
+        QCOMPARE(grid_rows(*kurvo.FEtud_Tablo2, 1), QStringList("09:00|10:30|Matematik|2|AYŞE (VEKİL)| "));
         // The press that leaves the number box brings 1251's sessions: none of these was meant.
         desk.type(kurvo.LONO, "1251");
-        desk.click(kurvo.FEtud_Tablo1, 1, 0, true);
+        click_cell(*kurvo.FEtud_Tablo1, 1, 0, true);
         QVERIFY(kurvo.FEtud_Tablo1->hasFocus() && desk.etud() == QStringList({changed, other}));
         desk.show_student(1251);  // shown again as the box is left, the list is the same
-        desk.click(kurvo.FEtud_Tablo1, 1, 0, true);
+        click_cell(*kurvo.FEtud_Tablo1, 1, 0, true);
         QCOMPARE(desk.etud(), QStringList(changed));
         const QStringList board("09:00|10:30|Matematik|1|AYŞE (VEKİL)| ");
-        QCOMPARE(desk.rows(kurvo.FEtud_Tablo2), board);
+        QCOMPARE(grid_rows(*kurvo.FEtud_Tablo2, 1), board);
         // Without a student there is the day still. A date half typed is taken while the form closes.
         emit kurvo.SDONEM->activated(0);
-        QVERIFY(desk.rows(kurvo.FEtud_Tablo1).isEmpty() && !kurvo.FEtud_BASLIK2->text().isEmpty());
-        QCOMPARE(desk.rows(kurvo.FEtud_Tablo2), board);
+        QVERIFY(grid_rows(*kurvo.FEtud_Tablo1, 1).isEmpty() && !kurvo.FEtud_BASLIK2->text().isEmpty());
+        QCOMPARE(grid_rows(*kurvo.FEtud_Tablo2, 1), board);
         kurvo.FEtud_TARIH->setFocus(Qt::TabFocusReason);
         QTest::keyClicks(kurvo.FEtud_TARIH, "12");
         kurvo.close();
@@ -155,31 +144,31 @@ private slots:
                    "1251|20261124|0900|1030|FZ|7| | ", "1250|20261124|0800|0900|ZZ|99| | ",
                    "1252|20261124|0800|0845|ZZ|99| | ", "1250|20261125|0800|0900|MT|12| | "});
         Kurvo& kurvo = desk.kurvo;
-        QCOMPARE(desk.rows(kurvo.FEtud_Tablo2),
+        QCOMPARE(grid_rows(*kurvo.FEtud_Tablo2, 1),
                  QStringList({"08:00|08:45|ZZ|1|99| ", "08:00|09:00|ZZ|1|99| ", "09:00|10:30|Fizik|1|AYŞE (VEKİL)| ",
                               "09:00|10:30|Matematik|2|AYŞE (VEKİL)|son"}));
         const QString attended = "X|24.11.2026|09:00|Matematik|AYŞE (VEKİL)|ilk",
                       missed = " |25.11.2026|08:00|Matematik|BARIŞ| ", untaught = " |24.11.2026|08:00|ZZ|99| ";
         desk.show_student(1250);
-        QCOMPARE(desk.rows(kurvo.FToplu_ETUDLER), QStringList({untaught, attended, missed}));
-        QCOMPARE(desk.rows(kurvo.FToplu_DERSLER_ETUD), QStringList({"FZ|Fizik||", "MT|Matematik|2|1"}));
+        QCOMPARE(grid_rows(*kurvo.FToplu_ETUDLER, 1), QStringList({untaught, attended, missed}));
+        QCOMPARE(grid_rows(*kurvo.FToplu_DERSLER_ETUD, 1), QStringList({"FZ|Fizik||", "MT|Matematik|2|1"}));
 
         kurvo.panel_goster(Kurvo::Panel::Toplu);
         kurvo.SSTab1->setCurrentIndex(2);
-        desk.click(kurvo.FToplu_DERSLER_ETUD, 2, 1);  // on the name
-        QCOMPARE(desk.rows(kurvo.FToplu_ETUDLER), QStringList({attended, missed}));
-        desk.click(kurvo.FToplu_DERSLER_ETUD, 1, 2);
-        QCOMPARE(desk.rows(kurvo.FToplu_ETUDLER), QStringList());
+        click_cell(*kurvo.FToplu_DERSLER_ETUD, 2, 1);  // on the name
+        QCOMPARE(grid_rows(*kurvo.FToplu_ETUDLER, 1), QStringList({attended, missed}));
+        click_cell(*kurvo.FToplu_DERSLER_ETUD, 1, 2);
+        QCOMPARE(grid_rows(*kurvo.FToplu_ETUDLER, 1), QStringList());
         emit kurvo.SDONEM->activated(0);
-        desk.click(kurvo.FToplu_DERSLER_ETUD, 2, 2);  // nothing of the former student comes back
-        QCOMPARE(desk.rows(kurvo.FToplu_ETUDLER), QStringList());
+        click_cell(*kurvo.FToplu_DERSLER_ETUD, 2, 2);  // nothing of the former student comes back
+        QCOMPARE(grid_rows(*kurvo.FToplu_ETUDLER, 1), QStringList());
 
         // A day without sessions does not ask for the scratch file; another one refuses what is not its own.
         QVERIFY(!paths::exists(scratch));
         desk.school.drives.put("c/qlm/siletud.mdb", "kalan");
         kurvo.FEtud_TARIH->set_key("20261126");
         QCOMPARE(kurvo.FEtud_BASLIK2->text(), "26.11.2026 tarihindeki etüdler :");
-        QVERIFY(desk.rows(kurvo.FEtud_Tablo2).isEmpty() && desk.failures.isEmpty());
+        QVERIFY(grid_rows(*kurvo.FEtud_Tablo2, 1).isEmpty() && desk.failures.isEmpty());
         kurvo.FEtud_TARIH->set_key("20261125");
         QVERIFY(desk.failures.takeFirst().contains(scratch + " önceki bir çalışmadan kalmış"));
         QVERIFY(paths::exists(scratch) && paths::remove(scratch) && paths::remove(desk.school.reference_file()));
