@@ -1,32 +1,15 @@
 // The main form as its .ui files draw it, with nothing behind it.
 #pragma once
 
-#include "ui_frame_devam.h"
-#include "ui_frame_dosyadan.h"
-#include "ui_frame_etud.h"
-#include "ui_frame_not.h"
-#include "ui_frame_sbul.h"
-#include "ui_frame_tablo3.h"
-#include "ui_frame_tahsil.h"
-#include "ui_frame_toplu.h"
-#include "ui_kurvo.h"
+#include "forms/kurvo_drawing.h"
 
 #include <QWidget>
 
 namespace bench {
 
-class BareForm : public QWidget,
-                 public Ui::KurvoForm,
-                 public Ui::FrameSbul,
-                 public Ui::FrameTahsil,
-                 public Ui::FrameDevam,
-                 public Ui::FrameEtud,
-                 public Ui::FrameNot,
-                 public Ui::FrameToplu,
-                 public Ui::FrameDosyadan,
-                 public Ui::FrameTablo3 {
+class BareForm : public QWidget, public KurvoDrawing {
 public:
-    BareForm();
+    BareForm() { draw(this); }
 };
 
 }  // namespace bench

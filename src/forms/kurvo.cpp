@@ -47,15 +47,8 @@ void set_heading_widths(QFrame* headings, const std::vector<int>& twips, std::si
 }  // namespace
 
 Kurvo::Kurvo(QWidget* parent) : QWidget(parent) {
-    KurvoForm::setupUi(this);
+    draw(this);
     setObjectName(QStringLiteral("Kurvo"));
-    FrameSbul::setupUi(Frame_SBUL);
-    FrameTahsil::setupUi(Frame_Tahsil);
-    FrameDevam::setupUi(Frame_Devam);
-    FrameEtud::setupUi(Frame_Etud);
-    FrameNot::setupUi(Frame_Not);
-    FrameToplu::setupUi(Frame_Toplu);
-    FrameDosyadan::setupUi(Frame_Dosyadan);
     bslk = {bslk_0, bslk_1, bslk_2};
     Shape = {Shape_0, Shape_1};
     FToplu_OO = {nullptr, nullptr, nullptr, nullptr, FToplu_OO_4, FToplu_OO_5, FToplu_OO_6, FToplu_OO_7};
@@ -64,7 +57,6 @@ Kurvo::Kurvo(QWidget* parent) : QWidget(parent) {
     set_up_controls();
     set_up_list_column();
     set_up_collections();
-    set_up_overview();
     set_up_panels();
     set_up_shortcuts();
     watch(this);
@@ -119,15 +111,6 @@ void Kurvo::set_up_collections() {
     CommandOK->installEventFilter(this);
 }
 
-void Kurvo::set_up_overview() {
-    Ftoplu_FTABLO3 = new QFrame(this);
-    FrameTablo3::setupUi(Ftoplu_FTABLO3);
-    Ftoplu_FTABLO3->setObjectName(QStringLiteral("Ftoplu_FTABLO3"));
-    Ftoplu_FTABLO3->hide();
-    CommandYAZF->raise();
-    FToplu_FrameYaz->raise();
-}
-
 void Kurvo::set_up_panels() {
     panels_ = {{Panel::SBUL, Frame_SBUL, CommandSBUL, 1080, 360},
                {Panel::Tahsil, Frame_Tahsil, CommandTAHSILAT, 120, 120},
@@ -136,6 +119,8 @@ void Kurvo::set_up_panels() {
                {Panel::Not, Frame_Not, CommandNOT, 120, 120},
                {Panel::Toplu, Frame_Toplu, CommandTOPLU, 120, 120},
                {Panel::Dosyadan, Frame_Dosyadan, CommandDOSYADAN, 120, 120}};
+    CommandYAZF->raise();
+    FToplu_FrameYaz->raise();
     TABLO_SBUL->set_stretch_column(2);
     QSizePolicy keeps_its_place = FSBUL_msg->sizePolicy();
     keeps_its_place.setRetainSizeWhenHidden(true);

@@ -1,16 +1,8 @@
 // The main form: list and card at the left and above, one panel at a time in the work area.
 #pragma once
 
+#include "forms/kurvo_drawing.h"
 #include "forms/window_rules.h"
-#include "ui_frame_devam.h"
-#include "ui_frame_dosyadan.h"
-#include "ui_frame_etud.h"
-#include "ui_frame_not.h"
-#include "ui_frame_sbul.h"
-#include "ui_frame_tablo3.h"
-#include "ui_frame_tahsil.h"
-#include "ui_frame_toplu.h"
-#include "ui_kurvo.h"
 
 #include <QWidget>
 
@@ -20,17 +12,7 @@
 // Passive: it lays itself out, knows which panel is shown, locks lists of controls and knows its default button.
 // Every control is a member by its one name and has that name as object name; element i of an array X is X[i]
 // and has the object name X_i.
-class Kurvo : public QWidget,
-              public DefaultButtonRule,
-              public Ui::KurvoForm,
-              public Ui::FrameSbul,
-              public Ui::FrameTahsil,
-              public Ui::FrameDevam,
-              public Ui::FrameEtud,
-              public Ui::FrameNot,
-              public Ui::FrameToplu,
-              public Ui::FrameTablo3,
-              public Ui::FrameDosyadan {
+class Kurvo : public QWidget, public DefaultButtonRule, public KurvoDrawing {
     Q_OBJECT
 
 public:
@@ -42,7 +24,6 @@ public:
     std::array<QLabel*, 8> FToplu_OO{};  // only 4 to 7 are on the form
     std::array<QCheckBox*, 5> ChkY;
     std::array<QLineEdit*, 10> bas;
-    QFrame* Ftoplu_FTABLO3;  // the pop-up with the collections of an instalment, over all panels
 
     enum class Panel { none, Tahsil, Devam, Etud, Not, Toplu, SBUL, Dosyadan };
     // Shows one panel, hides the others, and keeps the panel's button pressed as long as it is shown.
@@ -92,7 +73,6 @@ private:
     void set_up_controls();
     void set_up_list_column();
     void set_up_collections();
-    void set_up_overview();
     void set_up_panels();
     void set_up_shortcuts();
     void lay_out_panels();
