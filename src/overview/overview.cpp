@@ -17,9 +17,6 @@ namespace {
 
 using screen_units::pixels;
 
-const QStringList headings{QStringLiteral("Tarih"), QStringLiteral("Ödenen"), QStringLiteral("Belge No"),
-                           QStringLiteral("BTip"), QStringLiteral("Kasa Fiş No")};
-
 // Twips.
 constexpr int row_height = 270;
 constexpr int frame_around_grid = 100;
@@ -105,9 +102,7 @@ void Overview::FToplu_Tablo2_MouseDown(const QPoint& mouse) {
 bool Overview::fill_collections() {
     GridView& grid = *kurvo_.FToplu_TABLO3;
     const GridView::Filling filling(grid);
-    grid.clear();
     grid.set_rows(1);
-    grid.set_row(0, headings);
     store::Recordset Tahsilat = session_.termDb.OpenRecordset("Tahsilat");
     Tahsilat.Index("OVTX");
     if (!Tahsilat.has_rows()) return false;
