@@ -169,6 +169,18 @@ int compare_utf8(const char* left, int left_size, const char* right, int right_s
     return compare_read(Utf8Reader(left + same, left_size - same), Utf8Reader(right + same, right_size - same));
 }
 
+// Two bytes a letter, four for what lies outside of the code page.
+std::string sort_key(QStringView text) {
+    constexpr char outside = first_outside >> 8;
+    std::string key;
+    for (Utf16Reader reader(text); !reader.at_end();) {
+        const Weight weight = weight_of(reader.next());
+        if (weight >= first_outside) (key += outside) += static_cast<char>(weight >> 16);
+        (key += static_cast<char>(weight >> 8)) += static_cast<char>(weight);
+    }
+    return key;
+}
+
 bool before_by_code(const QString& left, const QString& right) {
     Utf16Reader a(left), b(right);
     while (!a.at_end() && !b.at_end()) {

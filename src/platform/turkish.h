@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <string>
+
 namespace turkish {
 
 // Capitals as a name box types them: i -> İ, ı -> I, every other letter by the general rule; a letter stays as it is
@@ -16,6 +18,8 @@ QChar capital(QChar typed);
 int compare(QStringView left, QStringView right);
 // The same on UTF-8, as the files hold texts.
 int compare_utf8(const char* left, int left_size, const char* right, int right_size);
+// Bytes whose plain order, a shorter text before its continuations, is this order: for whoever sorts without us.
+std::string sort_key(QStringView text);
 
 // Plain order by character code, as the learned lists and the teachers are kept.
 bool before_by_code(const QString& left, const QString& right);

@@ -13,6 +13,7 @@ using Kind = ReadRequest::Kind;
 
 constexpr int first_batch = 32;
 constexpr int batch_after_write = 8;
+constexpr int least_batch_from_afar = 128;  // a trip takes longer than so many rows
 constexpr std::size_t most_values = 16384;  // of a batch that has grown
 constexpr std::size_t least_width = 8;      // that is reckoned with
 
@@ -44,15 +45,22 @@ void Recordset::Cursor::turn() {
     ++turn_;
 }
 
+// The first rows from afar come whole: each field that is found missing later costs a trip of its own.
+const ProjectionPtr& Recordset::Cursor::next_columns(FieldUse& use) const {
+    return session_->engine().is_far() && use.is_new() ? info_.all_fields() : use.next();
+}
+
 void Recordset::Cursor::read(Kind kind, FieldUse& use, std::span<const Value> keys, RowId row) {
     place_ = Place::nowhere;  // until the rows are there
     use_ = &use;
     at_ = 0;
     too_narrow_ = false;
     turn();
+    Engine& engine = session_->engine();
+    if (engine.is_far()) limit_ = std::max(limit_, least_batch_from_afar);
     const int limit = kind == Kind::last || &use == &index_->point ? 1 : limit_;
-    session_->engine().read({kind, info_, index_number_, use.next(), keys, row, limit, leading_ ? &*leading_ : nullptr},
-                            batch_);
+    engine.read({kind, info_, index_number_, next_columns(use), keys, row, limit, leading_ ? &*leading_ : nullptr},
+                batch_);
     stamp_ = *writes_;
 }
 
@@ -198,7 +206,7 @@ bool Recordset::Cursor::read_row(Batch& result, const ProjectionPtr& columns) {
 void Recordset::Cursor::refresh() {
     Batch now;
     const std::uint64_t stamp = *writes_;
-    if (!read_row(now, use_->next())) throw messages::outcome(Errc::row_gone, file(), info_.definition().name);
+    if (!read_row(now, next_columns(*use_))) throw messages::outcome(Errc::row_gone, file(), info_.definition().name);
     now.complete = false;
     batch_ = std::move(now);
     at_ = 0;

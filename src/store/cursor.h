@@ -61,6 +61,7 @@ private:
     };
 
     void read(ReadRequest::Kind kind, FieldUse& use, std::span<const Value> keys = {}, RowId row = ReadRequest::no_row);
+    const ProjectionPtr& next_columns(FieldUse& use) const;
     void read_on();
     bool is_fresh() const { return stamp_ == *writes_; }
     void move_first_or_end();

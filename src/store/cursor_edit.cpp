@@ -59,8 +59,9 @@ void Recordset::Cursor::update() {
     EditBuffer edit = std::move(*edit_);
     edit_.reset();
     const bool adds = !edit.lock;
+    if (adds) edit.lock.emplace(session_, info_.definition().name);
+    session_->expect_end();
     if (adds) {
-        edit.lock.emplace(session_, info_.definition().name);
         engine.insert(info_, edit.values);
     } else if (!engine.update(info_, row(), edit.values)) {
         throw messages::outcome(Errc::row_gone, file(), info_.definition().name);
@@ -76,6 +77,7 @@ bool Recordset::Cursor::changes_key(const EditBuffer& edit) const {
 
 void Recordset::Cursor::erase() {
     EditLock lock = lock_row();
+    session_->expect_end();
     if (!session_->engine().erase(info_, row()))
         throw messages::outcome(Errc::row_gone, file(), info_.definition().name);
     session_->has_written(*writes_);

@@ -25,6 +25,8 @@ struct ReadRequest {
         row,    // the row `row` alone
     };
     static constexpr RowId no_row = -1;
+    // In place of an index: the order of entry. Goes with `first`, and with `after` a row without keys.
+    static constexpr int by_entry = -1;
 
     Kind kind;
     const TableInfo& table;
@@ -69,17 +71,29 @@ public:
     // What is wrong with the file's structure, in the engine's own words; empty for a sound one.
     virtual QStringList damages() = 0;
 
+    // Every call costs a trip over the network: more rows are read at once than are asked for.
+    virtual bool is_far() const { return false; }
+
+    enum class Wait : std::uint8_t {
+        now,
+        with_next,  // an engine that is far away may wait when the next read or write is sent
+    };
     // Waits up to 5 s for another writer of this file. `table` is named in the message.
-    virtual void begin(std::string_view table) = 0;
+    virtual void begin(std::string_view table, Wait wait) = 0;
+    // The next write is the last of the transaction: it may be sent together with the commit, which then fails for it.
+    virtual void expect_commit() {}
     virtual void commit(std::string_view table) = 0;
     virtual void rollback() noexcept = 0;
     // A failure may have ended the transaction.
     virtual bool in_transaction() const = 0;
 
     // Within a transaction only. A failure leaves the other writes of the transaction as they are.
-    virtual RowId insert(const TableInfo& table, std::span<const Assignment> values) = 0;
+    virtual void insert(const TableInfo& table, std::span<const Assignment> values) = 0;
     virtual bool update(const TableInfo& table, RowId row, std::span<const Assignment> values) = 0;  // false: gone
     virtual bool erase(const TableInfo& table, RowId row) = 0;                                       // false: gone
+    virtual void erase_all(const TableInfo& table) = 0;
+    // Adds rows that hold all fields of the table, in their order.
+    virtual void insert_rows(const TableInfo& table, const Batch& rows);
 };
 
 // The engine that the file at `native_path` asks for; refuses with words what no engine serves. `name` is the file as

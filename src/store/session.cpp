@@ -31,19 +31,23 @@ void Database::Session::close() {
     engine_.reset();
 }
 
-void Database::Session::begin(std::string_view table) {
-    engine().begin(table);
+void Database::Session::begin(std::string_view table, Engine::Wait wait) {
+    engine().begin(table, wait);
     ++transaction_;
 }
 
 std::uint64_t Database::Session::join(std::string_view table) {
     if (edits_ == 0 && !scoped_) {
-        begin(table);
+        begin(table, Engine::Wait::with_next);
     } else if (!engine().in_transaction()) {
         throw messages::error(u"Yazma yarıda kesilmiş, sürdürülemez", name_, table);
     }
     ++edits_;
     return transaction_;
+}
+
+void Database::Session::expect_end() {
+    if (edits_ == 1 && !scoped_) engine().expect_commit();
 }
 
 void Database::Session::leave(std::uint64_t transaction, std::string_view table) {
@@ -96,7 +100,7 @@ void Database::Session::tell_readers() noexcept {
 
 void Database::Session::begin_scope() {
     if (scoped_ || edits_ > 0) throw messages::error(u"Açık bir yazma varken yeni bir toplu yazma başlatılamaz", name_);
-    begin({});
+    begin({}, Engine::Wait::now);
     scoped_ = true;
 }
 

@@ -23,6 +23,8 @@ struct Database::Session {
 
     // An edit joins the transaction of another one or of a scope; the last one to leave commits.
     std::uint64_t join(std::string_view table);
+    // To be called ahead of the write of an edit: the engine hears where nothing else stands in the transaction.
+    void expect_end();
     void leave(std::uint64_t transaction, std::string_view table);
     void abandon(std::uint64_t transaction) noexcept;
     // Record sets forget what they have read of the table: now, and again when the transaction ends.
@@ -33,7 +35,7 @@ struct Database::Session {
     void abandon_scope() noexcept;
 
 private:
-    void begin(std::string_view table);
+    void begin(std::string_view table, Engine::Wait wait);
     void end(std::string_view table);
     void roll_back() noexcept;
     void tell_readers() noexcept;

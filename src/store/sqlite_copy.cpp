@@ -1,5 +1,7 @@
 // A copy of a whole file beside the work of others, and the check of its structure.
+#include "store/engine_copy.h"
 #include "store/messages.h"
+#include "store/server_place.h"
 #include "store/sqlite_engine.h"
 
 #include <QFile>
@@ -48,6 +50,7 @@ std::int64_t SqliteEngine::version() {
 }
 
 void SqliteEngine::copy_to(const QString& name, const QString& native_path) {
+    if (read_server_place(name, native_path)) return copy_rows(*this, *open_engine(name, native_path));
     if (QFileInfo::exists(native_path)) return copy_into(*std::make_unique<SqliteEngine>(name, native_path));
     const auto made = create(name, native_path);
     try {

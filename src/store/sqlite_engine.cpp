@@ -196,7 +196,7 @@ std::int64_t SqliteEngine::count(const TableInfo& table) {
     });
 }
 
-void SqliteEngine::begin(std::string_view table) {
+void SqliteEngine::begin(std::string_view table, Wait) {
     guarded(table, [&] { execute("BEGIN IMMEDIATE"); });
 }
 
@@ -231,12 +231,11 @@ SqliteStatement& SqliteEngine::inserting(const TableInfo& table, std::span<const
     return inserts_.try_emplace(std::move(key), connection_.get(), sql).first->second;
 }
 
-RowId SqliteEngine::insert(const TableInfo& table, std::span<const Assignment> values) {
-    return guarded(table.definition().name, [&] {
+void SqliteEngine::insert(const TableInfo& table, std::span<const Assignment> values) {
+    guarded(table.definition().name, [&] {
         SqliteStatement& statement = inserting(table, values);
         bind_all(statement, values);
         statement.run();
-        return sqlite3_last_insert_rowid(connection_.get());
     });
 }
 
@@ -265,6 +264,11 @@ bool SqliteEngine::erase(const TableInfo& table, RowId row) {
         erasing.run();
         return sqlite3_changes(connection_.get()) > 0;
     });
+}
+
+void SqliteEngine::erase_all(const TableInfo& table) {
+    const std::string& name = table.definition().name;
+    guarded(name, [&] { execute("DELETE FROM " + quoted_name(name)); });
 }
 
 }  // namespace store

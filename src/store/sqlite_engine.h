@@ -29,13 +29,14 @@ public:
     std::int64_t version() override;
     void copy_to(const QString& name, const QString& native_path) override;
     QStringList damages() override;
-    void begin(std::string_view table) override;
+    void begin(std::string_view table, Wait wait) override;
     void commit(std::string_view table) override;
     void rollback() noexcept override;
     bool in_transaction() const override { return sqlite3_get_autocommit(connection_.get()) == 0; }
-    RowId insert(const TableInfo& table, std::span<const Assignment> values) override;
+    void insert(const TableInfo& table, std::span<const Assignment> values) override;
     bool update(const TableInfo& table, RowId row, std::span<const Assignment> values) override;
     bool erase(const TableInfo& table, RowId row) override;
+    void erase_all(const TableInfo& table) override;
 
 private:
     struct New {};

@@ -123,14 +123,6 @@ void SqliteEngine::flush() {
     if (!file || file->pMethods->xSync(file, SQLITE_SYNC_FULL) != SQLITE_OK) fail(SQLITE_IOERR, {});
 }
 
-std::unique_ptr<Engine> open_engine(const QString& name, const QString& native_path) {
-    const QFileInfo file(native_path);
-    if (!file.exists()) throw messages::error(u"Dosya bulunamadı", name);
-    if (!file.isFile()) throw messages::error(u"Dosya değil, klasör", name);
-    require_locks(file.absolutePath(), name);
-    return std::make_unique<SqliteEngine>(name, native_path);
-}
-
 std::unique_ptr<Engine> create_engine(const QString& name, const QString& native_path) {
     require_locks(QFileInfo(native_path).absolutePath(), name);
     return SqliteEngine::create(name, native_path);
@@ -138,7 +130,7 @@ std::unique_ptr<Engine> create_engine(const QString& name, const QString& native
 
 void create_engine_file(const QString& name, const QString& native_path, const std::vector<TableDef>& tables) {
     const auto engine = SqliteEngine::create(name, native_path);
-    engine->begin({});
+    engine->begin({}, Engine::Wait::now);
     for (const TableDef& table : tables) engine->create_table(table);
     engine->commit({});
     engine->flush();

@@ -1,5 +1,6 @@
 #include "store/sqlite_query.h"
 
+#include "store/engine.h"
 #include "store/sqlite_statement.h"
 
 #include <vector>
@@ -18,6 +19,7 @@ std::string joined(const std::vector<std::string>& parts, const char* separator)
 
 std::vector<std::string> key_names(const TableInfo& table, int index) {
     std::vector<std::string> names;
+    if (index == ReadRequest::by_entry) return names;
     for (const int field : table.index_at(index).fields)
         names.push_back(quoted_name(table.definition().fields[static_cast<std::size_t>(field)].name));
     return names;
@@ -70,7 +72,7 @@ std::string order(std::vector<std::string> names, bool descending) {
 }  // namespace
 
 std::uint64_t ReadShape::code(const Projection& columns) const {
-    return std::uint64_t{columns.id} << 32 | static_cast<std::uint64_t>(index) << 24 |
+    return std::uint64_t{columns.id} << 32 | static_cast<std::uint64_t>(index & 0xFF) << 24 |
            static_cast<std::uint64_t>(form) << 20 | static_cast<std::uint64_t>(keys) << 16 | nulls;
 }
 

@@ -38,6 +38,8 @@ public:
         last_touch_[static_cast<std::size_t>(field)] = epoch_;
         missing_ |= current_->slot_of(field) < 0;
     }
+    // Nobody has asked for anything yet.
+    bool is_new() const { return epoch_ == 0; }
     // The projection for the next batch.
     const ProjectionPtr& next();
 

@@ -1,0 +1,148 @@
+#include "store/mariadb_engine.h"
+
+#include "store/conversion.h"
+#include "store/mariadb_sql.h"
+#include "store/messages.h"
+
+#include <mysqld_error.h>
+
+#include <charconv>
+
+namespace store {
+
+namespace {
+
+// A further attempt after the one that may find a node of a cluster gone as well.
+constexpr int most_reconnections = 2;
+constexpr int columns_ahead = 2;  // the row's id and version
+
+void append(FieldType type, const MariadbConnection::Row& row, int column, Batch& result) {
+    if (row.is_null(column)) return result.add_null();
+    const std::string_view text = row.text(column);
+    if (is_text(type)) return result.add(text);
+    if (is_whole(type)) return result.add(row.whole(column));
+    double number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    result.add(number);
+}
+
+}  // namespace
+
+MariadbEngine::MariadbEngine(QString name, const ServerPlace& place, New)
+    : name_(std::move(name)), place_(place), identity_("mariadb") {
+    for (const QString& part : {place.hosts.join(u','), QString::number(place.port), place.database, place.prefix})
+        identity_ += '|' + part.toStdString();
+    guarded({}, [&] { connection_ = take_connection(place_); });
+}
+
+MariadbEngine::MariadbEngine(QString name, const ServerPlace& place) : MariadbEngine(std::move(name), place, New{}) {
+    if (!knows_definitions()) read_definitions();
+}
+
+MariadbEngine::~MariadbEngine() {
+    rollback();
+    keep_connection(place_, std::move(connection_));
+}
+
+void MariadbEngine::fail(const MariadbFailure& failure, std::string_view table) {
+    const QString place = name_ + QStringLiteral(" (") + QString::fromStdString(failure.words) + u')';
+    const bool was_writing = state_ != State::none;
+    if (failure.is_lost()) forget_transaction();
+    switch (failure.code) {
+        case ER_DUP_ENTRY:
+            throw messages::outcome(Errc::duplicate_key, name_, table);
+        case ER_LOCK_WAIT_TIMEOUT:
+        case ER_LOCK_DEADLOCK:
+        case ER_BAD_NULL_ERROR:  // another one has written this version of the row
+            throw messages::outcome(Errc::locked, name_, table);
+        case ER_NO_SUCH_TABLE:
+            if (was_writing && is_retired())
+                throw messages::error(u"Dosya yerinde değil; taşınmış, silinmiş ya da bağlantı kopmuş", name_, table);
+            throw messages::error(u"Sunucuda bu dosyanın tablosu yok", place, table);
+        case ER_DISK_FULL:
+        case ER_RECORD_FILE_FULL:
+            throw messages::error(u"Sunucunun diski dolu, yazılamadı", name_, table);
+        case ER_DBACCESS_DENIED_ERROR:
+        case ER_TABLEACCESS_DENIED_ERROR:
+        case ER_OPTION_PREVENTS_STATEMENT:
+            throw messages::error(u"Sunucuda bu işlem için izin yok", place, table);
+        case ER_ACCESS_DENIED_ERROR:
+            throw messages::error(u"Sunucu kullanıcıyı ya da parolayı kabul etmiyor", place);
+        case ER_BAD_DB_ERROR:
+            throw messages::error(u"Sunucuda veritabanı yok", place);
+        case ER_DATA_TOO_LONG:
+        case ER_NET_PACKET_TOO_LARGE:
+            throw messages::error(u"Metin sunucu için çok uzun, yazılamadı", place, table);
+        default:
+            break;
+    }
+    if (!failure.is_lost()) throw messages::error(u"Veritabanı sunucusunun hatası", place, table);
+    if (was_writing) throw messages::error(u"Sunucuyla bağlantı koptu; değişiklik yazılmadı", place, table);
+    throw messages::error(u"Veritabanı sunucusuna ulaşılamıyor", place, table);
+}
+
+void MariadbEngine::reconnect() {
+    connection_ = std::make_unique<MariadbConnection>(place_);
+}
+
+std::string MariadbEngine::prefixed(std::string_view table) const {
+    return place_.prefix.toStdString() + '_' + std::string(table);
+}
+
+std::string MariadbEngine::quoted(std::string_view table) const {
+    return mariadb_sql::quoted_name(prefixed(table));
+}
+
+std::string MariadbEngine::beginning() const {
+    return "BEGIN;SELECT id FROM " + quoted("_lock") + " FOR UPDATE;";
+}
+
+void MariadbEngine::ask(const std::string& statements, const TakeRow& take, const std::function<void()>& restart) {
+    const std::size_t ahead = state_ == State::promised ? 2 : 0;
+    const std::string all = ahead > 0 ? beginning() + statements : statements;
+    for (int reconnections = 0;;) {
+        try {
+            if (restart) restart();
+            connection_->run(all, [&](std::size_t statement, const MariadbConnection::Row& row) {
+                if (statement >= ahead) take(statement - ahead, row);
+            });
+            if (ahead > 0) state_ = State::open;
+            return;
+        } catch (const MariadbFailure& failure) {
+            if (failure.is_lost() && state_ != State::open && reconnections++ < most_reconnections) {
+                reconnect();
+            } else if (failure.is_conflict() && state_ == State::open && journal_.can_repeat()) {
+                repeat({});
+            } else {
+                if (!failure.is_lost() && ahead > 0) state_ = State::open;
+                throw;
+            }
+        }
+    }
+}
+
+void MariadbEngine::read(const ReadRequest& request, Batch& result) {
+    const TableDef& table = request.table.definition();
+    const bool keeps_version = request.kind == ReadRequest::Kind::row && state_ != State::none;
+    guarded(table.name, [&] {
+        std::size_t rows_of_first = 0, rows_of_second = 0;
+        const auto take = [&](std::size_t statement, const MariadbConnection::Row& row) {
+            if (statement == 1 && rows_of_first >= static_cast<std::size_t>(request.limit)) return;
+            ++(statement == 0 ? rows_of_first : rows_of_second);
+            const RowId id = row.whole(0);
+            if (keeps_version) journal_.know(table.name, id, row.whole(1));
+            result.begin_row(id);
+            int column = columns_ahead;
+            for (const int field : request.columns->fields)
+                append(table.fields[static_cast<std::size_t>(field)].type, row, column++, result);
+        };
+        const auto restart = [&] {
+            result.clear(request.columns);
+            rows_of_first = rows_of_second = 0;
+        };
+        ask(mariadb_sql::read(prefixed(table.name), request), take, restart);
+        result.complete = rows_of_first < static_cast<std::size_t>(request.limit) && rows_of_second == 0;
+    });
+}
+
+}  // namespace store
