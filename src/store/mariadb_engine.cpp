@@ -12,8 +12,8 @@ namespace store {
 
 namespace {
 
-// A further attempt after the one that may find a node of a cluster gone as well.
-constexpr int most_reconnections = 2;
+// One more than is needed for a lost connection: a node of a cluster may be gone as well.
+constexpr int most_attempts = 2;
 constexpr int columns_ahead = 2;  // the row's id and version
 
 void append(FieldType type, const MariadbConnection::Row& row, int column, Batch& result) {
@@ -100,7 +100,7 @@ std::string MariadbEngine::beginning() const {
 void MariadbEngine::ask(const std::string& statements, const TakeRow& take, const std::function<void()>& restart) {
     const std::size_t ahead = state_ == State::promised ? 2 : 0;
     const std::string all = ahead > 0 ? beginning() + statements : statements;
-    for (int reconnections = 0;;) {
+    for (int attempts = 0;;) {
         try {
             if (restart) restart();
             connection_->run(all, [&](std::size_t statement, const MariadbConnection::Row& row) {
@@ -109,8 +109,9 @@ void MariadbEngine::ask(const std::string& statements, const TakeRow& take, cons
             if (ahead > 0) state_ = State::open;
             return;
         } catch (const MariadbFailure& failure) {
-            if (failure.is_lost() && state_ != State::open && reconnections++ < most_reconnections) {
-                reconnect();
+            const bool may_go_again = failure.is_lost() || failure.is_conflict();
+            if (may_go_again && state_ != State::open && attempts++ < most_attempts) {
+                if (failure.is_lost()) reconnect();
             } else if (failure.is_conflict() && state_ == State::open && journal_.can_repeat()) {
                 repeat({});
             } else {

@@ -84,6 +84,7 @@ private:
     bool run_write(const Write& write);
     void send_commit(std::string_view table);
     void settle_lost_commit(std::string_view table);
+    bool was_committed();
     // Writes again what another node's write or a lost connection has undone; fails as locked where a row has changed.
     void repeat(std::string_view table);
     void reconnect();

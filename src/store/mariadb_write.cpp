@@ -94,29 +94,34 @@ void MariadbEngine::send_commit(std::string_view table) {
     if (is_gone(table, row)) throw messages::outcome(Errc::row_gone, name_, table);
 }
 
-// The row of the writers is locked by the lost transaction until the server has ended it.
+// The row of this writer stays locked by the lost transaction until the server has ended that.
+bool MariadbEngine::was_committed() {
+    bool found = false;
+    reconnect();
+    connection_->run("BEGIN;SELECT writer FROM " + quoted("_writers") + " WHERE writer=" + std::to_string(writer()) +
+                         " AND token=" + std::to_string(journal_.token) + " FOR UPDATE;COMMIT",
+                     [&](std::size_t, const MariadbConnection::Row&) { found = true; });
+    return found;
+}
+
+// Whoever wrote more than one row went by what he had read under the lock, which was lost with the connection: that is
+// not repeated.
 void MariadbEngine::settle_lost_commit(std::string_view table) {
-    bool is_committed = false;
     try {
-        reconnect();
-        connection_->run("BEGIN;SELECT writer FROM " + quoted("_writers") +
-                             " WHERE writer=" + std::to_string(writer()) +
-                             " AND token=" + std::to_string(journal_.token) + " FOR UPDATE;COMMIT",
-                         [&](std::size_t, const MariadbConnection::Row&) { is_committed = true; });
+        if (was_committed()) return;
+        if (journal_.count() == 1 && journal_.can_repeat()) {
+            repeat(table);
+            return send_commit(table);
+        }
     } catch (const MariadbFailure& failure) {
+        if (!failure.is_lost()) throw;
         forget_transaction();
         throw messages::error(
             u"Sunucuyla bağlantı koptu; değişikliğin yazılıp yazılmadığı bilinmiyor, bağlantı kurulunca kontrol edin",
             name_ + QStringLiteral(" (") + QString::fromStdString(failure.words) + u')', table);
     }
-    if (is_committed) return;
-    // Whoever wrote more than one row went by what he read under the lock, which was lost with the connection.
-    if (journal_.count() != 1 || !journal_.can_repeat()) {
-        forget_transaction();
-        throw messages::error(u"Sunucuyla bağlantı koptu; değişiklik yazılmadı", name_, table);
-    }
-    repeat(table);
-    send_commit(table);
+    forget_transaction();
+    throw messages::error(u"Sunucuyla bağlantı koptu; değişiklik yazılmadı", name_, table);
 }
 
 void MariadbEngine::repeat(std::string_view table) {

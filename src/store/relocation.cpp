@@ -96,8 +96,14 @@ MoveToServer::~MoveToServer() {
     if (source_) source_->rollback();
 }
 
-void MoveToServer::run(const ServerPlace& place, bool replace_tables, const TableDone& copied) {
-    make_room(place, replace_tables);
+void MoveToServer::require_free(const ServerPlace& place) {
+    if (MariadbEngine::exists(path_, place) && !holds_nothing_else(place))
+        throw messages::error(
+            QStringLiteral("Sunucuda bu önekle tablolar var (%1); üzerlerine yazılmadı: %2").arg(place.prefix, path_));
+}
+
+void MoveToServer::run(const ServerPlace& place, const TableDone& copied) {
+    MariadbEngine::drop(path_, place);
     write_text(path_, draft_, server_place_text(place), QFile::permissions(native_));
     MariadbEngine::create(path_, place, source_->tables());
     try {
@@ -111,14 +117,6 @@ void MoveToServer::run(const ServerPlace& place, bool replace_tables, const Tabl
         }
         throw;
     }
-}
-
-void MoveToServer::make_room(const ServerPlace& place, bool replace_tables) {
-    if (!MariadbEngine::exists(path_, place)) return;
-    if (!replace_tables && !holds_nothing_else(place))
-        throw messages::error(
-            QStringLiteral("Sunucuda bu önekle tablolar var (%1); üzerlerine yazılmadı: %2").arg(place.prefix, path_));
-    MariadbEngine::drop(path_, place);
 }
 
 // A move that was cut has left its draft, and tables that are empty or hold what the file holds.

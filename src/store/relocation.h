@@ -33,12 +33,13 @@ public:
     explicit MoveToServer(const QString& path);
     ~MoveToServer();
 
-    // Fills new tables, compares every row, and then puts the text of `place` in the place of the database. Tables of
-    // this prefix are refused, but for what a cut move has left there; with `replace` they go.
-    void run(const ServerPlace& place, bool replace, const TableDone& copied);
+    // Throws where the server holds tables of this prefix already, unless a cut move of this file has left them.
+    void require_free(const ServerPlace& place);
+    // Fills new tables, in place of those of this prefix, compares every row, and then puts the text of `place` in the
+    // place of the database.
+    void run(const ServerPlace& place, const TableDone& copied);
 
 private:
-    void make_room(const ServerPlace& place, bool replace);
     bool holds_nothing_else(const ServerPlace& place);
     void fill(const ServerPlace& place, const TableDone& copied);
     void put_text_in_place();
