@@ -17,7 +17,9 @@ if(UNIX AND NOT APPLE)
       DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps RENAME ${id}.png)
   endforeach()
   install(DIRECTORY ${packaging}/man/ DESTINATION ${CMAKE_INSTALL_MANDIR})
-  install(FILES ${packaging}/copyright DESTINATION ${guides})
+  set(KURVO_CONTACT "Kurvo <destek@kurvo.example>" CACHE STRING "Name and address of who answers for the package")
+  configure_file(${packaging}/copyright.in ${PROJECT_BINARY_DIR}/copyright @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/copyright DESTINATION ${guides})
   # The guides for those who use it and set it up; not what developers measure.
   install(DIRECTORY docs/ DESTINATION ${guides} PATTERN benchmarks.md EXCLUDE)
 

@@ -5,6 +5,7 @@
 #include "platform/date_picker.h"
 #include "platform/numbers.h"
 #include "platform/slots.h"
+#include "session/emptying.h"
 #include "session/terms.h"
 
 #include <QCoreApplication>
@@ -54,9 +55,16 @@ void AttendanceEntry::connect_cell() {
 void AttendanceEntry::CommandDEVAMSIZLIK_Click() {
     if (!session_.studentSelected) return;
     kurvo_.panel_goster(Kurvo::Panel::Devam);
-    devam_gunu_yukle();
     kurvo_.set_default_button(kurvo_.FDevam_CommandKAYDET);
-    kurvo_.FDevam_TARIH->setFocus();
+    load_at_date();
+}
+
+// The date tells of the focus only when it comes from elsewhere; Enter in the date saves too.
+void AttendanceEntry::load_at_date() {
+    if (kurvo_.FDevam_TARIH->hasFocus())
+        FDevam_TARIH_GotFocus();
+    else
+        kurvo_.FDevam_TARIH->setFocus();
 }
 
 void AttendanceEntry::FDevam_TARIH_GotFocus() {
@@ -74,12 +82,7 @@ void AttendanceEntry::devam_gunu_yukle() {
 
 void AttendanceEntry::devam_temizle() {
     hide_cell();
-    GridView& grid = *kurvo_.FDevam_Tablo2;
-    int rows = grid.rows();
-    while (rows > grid.fixed_rows() && grid.text(rows - 1, lesson_grid::name).isEmpty()) --rows;
-    grid.set_rows(rows);
-    lesson_grid::empty_counters(grid);
-    kurvo_.MAZERET->clear();
+    emptying::attendance_day(kurvo_);
 }
 
 void AttendanceEntry::load_excuse() {
@@ -113,9 +116,7 @@ void AttendanceEntry::FDevam_CommandKAYDET_Click() {
     save_excuse(save_lessons());
     if (!kurvo_.CommandTOPLU->isHidden() && devam_toplu_doldur_) devam_toplu_doldur_();
     commit_cell();
-    kurvo_.FDevam_TARIH->setFocus();
-    // The date tells of the focus only when it comes from elsewhere, and Enter in the date saves too.
-    devam_gunu_yukle();
+    load_at_date();
 }
 
 bool AttendanceEntry::save_lessons() {

@@ -40,8 +40,8 @@ private:
     bool FDevam_Cel_In_KeyDown(const QKeyEvent& event);
     bool FDevam_Tablo2_KeyPress(const QKeyEvent& event);
 
-    // Closes the cell box, takes the rows without a name away and empties the counters and the excuse.
-    void devam_temizle();
+    void load_at_date();   // shows the day, with the focus on its date
+    void devam_temizle();  // closes the cell box and empties the day
     void load_excuse();
     void load_lessons();
     bool save_lessons();  // whether a lesson of the day has hours now

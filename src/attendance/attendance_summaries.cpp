@@ -4,6 +4,7 @@
 #include "platform/numbers.h"
 #include "platform/prompt.h"
 #include "platform/slots.h"
+#include "session/emptying.h"
 #include "session/terms.h"
 
 #include <algorithm>
@@ -17,10 +18,6 @@ constexpr int date = 0, lesson = 4, excuse = 5;
 }  // namespace day_grid
 
 using Totals = std::array<QLabel*, counter_fields.size()>;
-
-void reset(const Totals& totals) {
-    for (QLabel* total : totals) total->setText(QStringLiteral("0"));
-}
 
 // The captions are the totals: what they show is read back and grows.
 class Adding {
@@ -95,8 +92,8 @@ void AttendanceSummaries::devam_toplu_doldur() {
 
 void AttendanceSummaries::fill(const Tab& tab) {
     const GridView::Filling filling_lessons(tab.lessons), filling_days(tab.days);
-    lesson_grid::empty_counters(tab.lessons);
-    reset(tab.totals);
+    emptying::counters(tab.lessons);
+    emptying::totals(tab.totals);
     read_absences(tab);
     show_days(tab);
 }
@@ -153,7 +150,7 @@ void AttendanceSummaries::FToplu_DERSLER_Click(int row) {
     tab.days.set_rows(1);
     tab.days.set_row(
         0, {QStringLiteral("  Tarih"), QStringLiteral("İzinli"), QStringLiteral("İzinsiz"), QStringLiteral("Raporlu")});
-    reset(tab.totals);
+    emptying::totals(tab.totals);
     Adding totals(tab.totals);
     for (const Absence& absence : devam_kayitlari_) {
         if (absence.code != code) continue;

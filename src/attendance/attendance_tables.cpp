@@ -26,8 +26,3 @@ int lesson_grid::row_of(const GridView& grid, const QString& code) {
         if (grid.text(row, lesson_grid::code) == code) return row;
     return -1;
 }
-
-void lesson_grid::empty_counters(GridView& grid) {
-    const QStringList empty(static_cast<qsizetype>(counter_fields.size()));
-    for (int row = grid.fixed_rows(); row < grid.rows(); ++row) grid.set_row(row, empty, first_counter);
-}

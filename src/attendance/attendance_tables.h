@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/grid_view.h"
+#include "session/lesson_grid.h"
 #include "store/record.h"
 
 #include <array>
@@ -26,12 +27,8 @@ using Hours = std::array<double, counter_fields.size()>;
 
 Hours hours_of(store::Recordset& absence);
 
-// A grid with a row for each lesson: code, name and the three counters.
 namespace lesson_grid {
 
-inline constexpr int code = 0, name = 1, first_counter = 2;
-
 int row_of(const GridView& grid, const QString& code);  // -1 where no row has it
-void empty_counters(GridView& grid);
 
 }  // namespace lesson_grid

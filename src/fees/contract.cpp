@@ -10,6 +10,8 @@
 #include "platform/text_file.h"
 #include "platform/wait_cursor.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 Contract::Contract(KurvoYeni& form, SessionContext& session)
@@ -54,9 +56,11 @@ void Contract::CommandSOZLESME_Click() {
 }
 
 void Contract::CommandSave_Click() {
-    const bool saved = attempt(u"Sözleşme kaydedilemedi."_s, [this] {
-        text_file::write_lines(clauses_file(), form_.Text_Soz->toPlainText().split(u'\n'));
-    });
+    // Blanks alone: an empty first line keeps the clauses clear of their frame.
+    static const QRegularExpression outer_blanks(u"\\A +| +\\z"_s);
+    const QString text = form_.Text_Soz->toPlainText().remove(outer_blanks);
+    const bool saved = attempt(u"Sözleşme kaydedilemedi."_s,
+                               [&] { text_file::write_lines(clauses_file(), text.split(u'\n')); });
     if (saved) prompt::tell(u"Sözleşme Kaydedildi."_s);
 }
 

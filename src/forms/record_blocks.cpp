@@ -39,6 +39,13 @@ QString caption_of(const QString& control) {
     return field == nullptr ? QString() : field->caption;
 }
 
+// Most captions of the first column begin with a blank; those without one stand in line with them.
+QLabel* first_caption(const QString& control) {
+    QLabel* label = caption_label(caption_of(control), control);
+    if (!label->text().startsWith(u' ')) label->setIndent(label->fontMetrics().horizontalAdvance(u' '));
+    return label;
+}
+
 QGridLayout* block_grid(QWidget* block, const QString& heading) {
     auto* grid = new QGridLayout(block);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -70,7 +77,7 @@ void RecordBlocks::build_column_blocks() {
         QGridLayout* grid = block_grid(frame, block.heading);
         int row = 1;
         for (const QStringList& names : block.rows) {
-            grid->addWidget(caption_label(caption_of(names.first()), names.first()), row, 0);
+            grid->addWidget(first_caption(names.first()), row, 0);
             auto* line = new QHBoxLayout;
             line->setSpacing(8);
             add_controls(*line, names);

@@ -35,7 +35,7 @@ void load_picture(QLabel& image, const QString& path) {
 DossierTemplate::DossierTemplate(const Kurvo& kurvo, const SessionContext& session, bool with_family) {
     fill_school(session);
     fill_identity(kurvo);
-    foto_yukle(session.photoFile, session.photoFolder);
+    foto_yukle(session);
     form_.FrameNOT->setVisible(with_family);
     if (with_family)
         fill_family(kurvo);
@@ -83,11 +83,9 @@ void DossierTemplate::logo_yukle(const QString& path) {
     load_picture(*form_.Logo, path);
 }
 
-void DossierTemplate::foto_yukle(QString path, const QString& photo_folder) {
+void DossierTemplate::foto_yukle(const SessionContext& session) {
     form_.Foto->clear();
-    if (path.isEmpty()) return;
-    if (!path.contains(QStringLiteral(":\\"))) path.prepend(photo_folder);
-    load_picture(*form_.Foto, path);
+    if (!session.photoFile.isEmpty()) load_picture(*form_.Foto, session.photo_path(session.photoFile));
 }
 
 int DossierTemplate::page() const {

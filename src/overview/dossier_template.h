@@ -29,7 +29,7 @@ private:
     void fill_family(const Kurvo& kurvo);
     void fill_school(const SessionContext& session);
     void logo_yukle(const QString& path);
-    void foto_yukle(QString path, const QString& photo_folder);
+    void foto_yukle(const SessionContext& session);
     void put_note(PrintSurface& paper, double x, double y, int end);
 
     DokumToplu form_;

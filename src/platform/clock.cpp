@@ -1,30 +1,13 @@
 #include "platform/clock.h"
 
-#include <utility>
-
 namespace clock_source {
 
-namespace {
-
-std::function<QDateTime()>& replacement() {
-    static std::function<QDateTime()> clock;
-    return clock;
-}
-
-}  // namespace
-
 QDateTime now() {
-    return replacement() ? replacement()() : QDateTime::currentDateTime();
+    return Override::current() ? Override::current()() : QDateTime::currentDateTime();
 }
 
 QDate today() {
     return now().date();
-}
-
-Override::Override(std::function<QDateTime()> clock) : before_(std::exchange(replacement(), std::move(clock))) {}
-
-Override::~Override() {
-    replacement() = std::move(before_);
 }
 
 }  // namespace clock_source

@@ -1,28 +1,19 @@
 // The clock, asked in one place so that a test can set it.
 #pragma once
 
+#include "platform/override.h"
+
 #include <QDate>
 #include <QDateTime>
 #include <QString>
-
-#include <functional>
 
 namespace clock_source {
 
 QDateTime now();
 QDate today();
 
-// A clock in place of the machine's for as long as the object lives (tests).
-class Override {
-public:
-    explicit Override(std::function<QDateTime()> clock);
-    ~Override();
-    Override(const Override&) = delete;
-    Override& operator=(const Override&) = delete;
-
-private:
-    std::function<QDateTime()> before_;
-};
+// A clock in place of the machine's.
+using Override = ::Override<struct Clock, QDateTime()>;
 
 }  // namespace clock_source
 

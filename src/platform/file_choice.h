@@ -1,9 +1,9 @@
 // The file dialog of the program: a clerk picks one existing file.
 #pragma once
 
-#include <QString>
+#include "platform/override.h"
 
-#include <functional>
+#include <QString>
 
 namespace file_choice {
 
@@ -11,17 +11,7 @@ namespace file_choice {
 // the clerk picks none.
 QString open(const QString& folder);
 
-// A choice in place of a person's for as long as the object lives (tests). It gets the folder and gives the native
-// path, as the dialog does.
-class Override {
-public:
-    explicit Override(std::function<QString(const QString&)> choice);
-    ~Override();
-    Override(const Override&) = delete;
-    Override& operator=(const Override&) = delete;
-
-private:
-    std::function<QString(const QString&)> before_;
-};
+// A choice in place of a person's. It gets the folder and gives the native path, as the dialog does.
+using Override = ::Override<struct File, QString(const QString&)>;
 
 }  // namespace file_choice

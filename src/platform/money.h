@@ -1,6 +1,8 @@
 // An amount as a scaled whole number, so that no binary fraction can change a result.
 #pragma once
 
+#include <QtGlobal>  // ahead of <compare>, at which moc stops without it
+
 #include <compare>
 #include <cstdint>
 

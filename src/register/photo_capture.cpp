@@ -100,7 +100,7 @@ void PhotoCapture::save_photo() {
     // The folder of a new school. Where photos go is said by the launcher and may be another one.
     QDir().mkpath(paths::native(session_.dataRoot + QStringLiteral("foto")));
     const QString name = session_.termCode + u'_' + kurvo_.LONO->text() + QStringLiteral(".bmp");
-    text_file::write_bytes(session_.photoFolder + name, bitmap_of(frame_));
+    text_file::write_bytes(session_.photo_path(name), bitmap_of(frame_));
     session_.photoFile = name;
 }
 

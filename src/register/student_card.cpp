@@ -88,7 +88,7 @@ void StudentCard::foto_goster(const QString& path) {
     kurvo_.Image1->setToolTip({});
     if (path.trimmed().isEmpty()) return;
     try {
-        const QString name = path.contains(u":\\") ? path : session_.photoFolder + path;
+        const QString name = session_.photo_path(path);
         if (!paths::exists(name)) return;
         const QImage picture = picture_within(name, place_of_picture());
         if (!picture.isNull()) show_picture(picture);

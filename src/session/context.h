@@ -45,6 +45,11 @@ struct SessionContext {
     QString term_file() const { return term_file(termCode); }
     QString reference_file() const { return data_file(QStringLiteral("Bilgi.mdb")); }
 
+    // Where a photograph lies that a student's row names: a bare name means the photo folder.
+    QString photo_path(const QString& name) const {
+        return name.contains(QStringLiteral(":\\")) ? name : photoFolder + name;
+    }
+
     // lineThickness as a paper's pen takes it, in quarters of a point.
     int line_width() const;
 

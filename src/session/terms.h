@@ -39,13 +39,6 @@ signals:
 
 private:
     void forget_student();
-    void empty_card();
-    void empty_collections();
-    void empty_attendance();
-    void empty_sessions();
-    void empty_overview();
-    void empty_statement();
-    void empty_search();
 
     Kurvo& kurvo_;
     SessionContext& session_;

@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/grid_view.h"
 #include "platform/slots.h"
+#include "session/lesson_grid.h"
 #include "session/terms.h"
 #include "study/reference_names.h"
 #include "study/session_times.h"
@@ -14,10 +15,6 @@
 #include <iterator>
 
 namespace {
-
-namespace lesson_grid {
-constexpr int kod = 0, tanim = 1, booked = 2, missed = 3;
-}
 
 constexpr int lesson_of_record = 3;
 
@@ -40,8 +37,8 @@ void show_counts(GridView& lessons, const QHash<QString, Count>& counts) {
     const GridView::Filling filling(lessons);
     const auto digits = [](int count) { return count == 0 ? QString() : QString::number(count); };
     for (int row = lessons.fixed_rows(); row < lessons.rows(); ++row) {
-        const Count count = counts.value(lessons.text(row, lesson_grid::kod));
-        lessons.set_row(row, {digits(count.booked), digits(count.missed)}, lesson_grid::booked);
+        const Count count = counts.value(lessons.text(row, lesson_grid::code));
+        lessons.set_row(row, {digits(count.booked), digits(count.missed)}, lesson_grid::first_counter);
     }
 }
 
@@ -76,7 +73,7 @@ void SessionSummaries::etud_toplu_doldur() {
 
 // By name: a session whose lesson is no longer taught carries the code as its name, which no row here has.
 void SessionSummaries::FToplu_DERSLER_ETUD_Click(int row) {
-    const QString name = kurvo_.FToplu_DERSLER_ETUD->text(row, lesson_grid::tanim);
+    const QString name = kurvo_.FToplu_DERSLER_ETUD->text(row, lesson_grid::name);
     std::vector<QStringList> of_lesson;
     std::ranges::copy_if(etud_kayitlari_, std::back_inserter(of_lesson),
                          [&](const QStringList& record) { return record[lesson_of_record] == name; });

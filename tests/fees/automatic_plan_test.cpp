@@ -1,9 +1,6 @@
-// moc stumbles over <compare> where Qt's headers have not come before.
-// clang-format off
-#include "support/run_all.h"
-
 #include "fees/automatic_plan.h"
-// clang-format on
+
+#include "support/run_all.h"
 
 using namespace Qt::StringLiterals;
 

@@ -116,7 +116,7 @@ private slots:
         desk.form.CommandSOZLESME->click();
         QVERIFY(!desk.form.FrameSozlesme->isHidden());
         QCOMPARE(desk.form.Text_Soz->toPlainText(), u"1- Öğrenci\n a) şıİ"_s);
-        for (const QString& text : {u"\n  2- Üst\n\n b) €\n"_s, u"Ω"_s}) {
+        for (const QString& text : {u"\n  2- Üst\n\n b) €\n  "_s, u"Ω"_s}) {
             desk.form.Text_Soz->setPlainText(text);
             desk.form.CommandSave->click();
             QCOMPARE(desk.bytes(PaperDesk::clauses_file), QByteArray("\r\n  2- \xDCst\r\n\r\n b) \x80\r\n\r\n"));

@@ -1,9 +1,7 @@
-// clang-format off
-#include "support/run_all.h"  // Qt before <compare>, which moc cannot read first
 #include "platform/numbers.h"
-// clang-format on
 
 #include "platform/clock.h"
+#include "support/run_all.h"
 
 #include <limits>
 #include <tuple>

@@ -69,6 +69,8 @@ private slots:
                 QVERIFY(order <= 0);
                 QCOMPARE(turkish::compare(texts[j], texts[i]), -order);
                 QCOMPARE(compare_bytes(texts[i], texts[j]), order);
+                const int of_keys = turkish::sort_key(texts[i]).compare(turkish::sort_key(texts[j]));
+                QCOMPARE(of_keys < 0 ? -1 : static_cast<int>(of_keys > 0), order);
             }
     }
 };

@@ -45,6 +45,12 @@ Clerk::~Clerk() {
     fatal::set_handler({});
 }
 
+KurvoYeni& Clerk::record_form() {
+    KurvoYeni* open = program_.record_form();
+    must(open != nullptr, u"the record form is not open"_s);
+    return *open;
+}
+
 void Clerk::reach(QWidget* control) {
     must(control->isVisible(), control->objectName() + u" is not to be seen"_s);
     must(control->isEnabled(), control->objectName() + u" is locked"_s);
@@ -111,6 +117,17 @@ void Clerk::type_date(DatePicker* box, const QString& shown) {
 void Clerk::type_note(const QString& text) {
     reach(kurvo().Text1);
     send_letters(kurvo().Text1, text);
+}
+
+void Clerk::write(QPlainTextEdit* box, const QStringList& lines) {
+    reach(box);
+    box->setFocus(Qt::MouseFocusReason);
+    box->selectAll();
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        if (i > 0) QTest::keyClick(box, Qt::Key_Return);
+        send_letters(box, lines[i]);
+    }
+    must(box->toPlainText() == lines.join(u'\n'), box->objectName() + u" does not take the text"_s);
 }
 
 void Clerk::import_students(const QByteArray& table, const QStringList& lines) {

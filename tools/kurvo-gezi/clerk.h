@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 
 // What must be seen and is not ends the walk with these words.
 void must(bool seen, const QString& words);
@@ -27,6 +28,7 @@ public:
     QDir folder() const { return folder_; }
     Program& program() { return program_; }
     Kurvo& kurvo() { return program_.form(); }
+    KurvoYeni& record_form();  // which must be open
 
     // Acts on what a person could reach; a control that is hidden or disabled ends the walk.
     void press(QAbstractButton* button);
@@ -34,9 +36,10 @@ public:
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});                     // where the focus is
     void click_cell(GridView& grid, int row, int column);
     void double_click_cell(GridView& grid, int row, int column);
-    void choose(QComboBox* list, int position);             // by the arrow keys
-    void type_date(DatePicker* box, const QString& shown);  // "05.10.2026", then Tab
-    void type_note(const QString& text);                    // at the caret of the note
+    void choose(QComboBox* list, int position);                 // by the arrow keys
+    void type_date(DatePicker* box, const QString& shown);      // "05.10.2026", then Tab
+    void type_note(const QString& text);                        // at the caret of the note
+    void write(QPlainTextEdit* box, const QStringList& lines);  // in place of what stands there
 
     // Imports the students of a table of semicolons: first name, last name, number, class group and the guardian's
     // telephone. `lines` must be what the panel says of it.

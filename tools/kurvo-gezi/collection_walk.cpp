@@ -2,8 +2,6 @@
 #include "platform/numbers.h"
 #include "walk.h"
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -154,8 +152,7 @@ void Collection::see_card() {
 }  // namespace
 
 Walk collection_walk(Clerk& clerk) {
-    const auto self = std::make_shared<Collection>(clerk);
-    const auto doing = [&](void (Collection::*act)()) { return [self, act] { (*self.*act)(); }; };
+    const auto doing = steps_of(std::make_shared<Collection>(clerk));
     const std::vector<QSize> both{screens::large, screens::small};
     const std::vector<QSize> one{screens::small};
     return {{u"bos"_s, both, doing(&Collection::starts_empty)},

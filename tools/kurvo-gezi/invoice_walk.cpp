@@ -1,7 +1,6 @@
-// The new student's guardian pays and wants an invoice on the school's own form.
+// The new student's guardian pays and wants an invoice on the school's own form; later an instalment more, and the
+// payment plan.
 #include "walk.h"
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -15,11 +14,14 @@ public:
     void choose_invoice();
     void confirm_details();
     void post();
+    void choose_plan();
+    void post_with_plan();
 
 private:
+    void post_payments(int payments_of_day);
+
     Clerk& clerk_;
     Kurvo& kurvo_;
-    int papers_before_ = 0;
 };
 
 void Invoice::choose_instalments() {
@@ -43,21 +45,39 @@ void Invoice::confirm_details() {
     must(kurvo_.FTahsil_BNO->hasFocus(), u"the document number does not wait"_s);
 }
 
-void Invoice::post() {
-    papers_before_ = static_cast<int>(clerk_.papers().size());
+void Invoice::post_payments(int payments_of_day) {
+    const qsizetype papers_before = clerk_.papers().size();
     clerk_.press(kurvo_.CommandOK);
-    must(clerk_.papers().size() == papers_before_ + 1, u"no invoice was printed"_s);
-    must(clerk_.office().payments_of_today(kurvo_.LONO->text().toInt()) == 2, u"not two payments are stored"_s);
+    must(clerk_.papers().size() == papers_before + 1, u"the paper was not printed"_s);
+    must(clerk_.office().payments_of_today(kurvo_.LONO->text().toInt()) == payments_of_day,
+         u"not %1 payments are stored"_s.arg(payments_of_day));
+}
+
+void Invoice::post() {
+    post_payments(2);
+}
+
+void Invoice::choose_plan() {
+    clerk_.click_cell(*kurvo_.FTahsil_Tablo2, 0, 1);
+    clerk_.press(kurvo_.CommandTAHSIL);
+    clerk_.press(kurvo_.DOP);
+    must(kurvo_.DOP->isChecked() && kurvo_.FTahsil_BNO->text().isEmpty(), u"the plan is not the only paper"_s);
+}
+
+void Invoice::post_with_plan() {
+    post_payments(3);
+    must(clerk_.papers().last().startsWith(u"Ödeme_Planı"), u"the paper is no payment plan"_s);
 }
 
 }  // namespace
 
 Walk invoice_walk(Clerk& clerk) {
-    const auto self = std::make_shared<Invoice>(clerk);
-    const auto doing = [&](void (Invoice::*act)()) { return [self, act] { (*self.*act)(); }; };
+    const auto doing = steps_of(std::make_shared<Invoice>(clerk));
     const std::vector<QSize> one{screens::small};
     return {{u"iki-taksit"_s, {}, doing(&Invoice::choose_instalments)},
             {u"fatura-bilgileri"_s, one, doing(&Invoice::choose_invoice)},
             {u"fatura-onay"_s, {}, doing(&Invoice::confirm_details)},
-            {u"fatura-kayit"_s, one, doing(&Invoice::post)}};
+            {u"fatura-kayit"_s, one, doing(&Invoice::post)},
+            {u"odeme-plani-sec"_s, {}, doing(&Invoice::choose_plan)},
+            {u"odeme-plani"_s, one, doing(&Invoice::post_with_plan)}};
 }

@@ -12,7 +12,7 @@ namespace {
 enum ExitStatus { done = 0, failed = 1, wrong_use = 2 };
 
 // The order matters: a later walk meets what the earlier ones have stored.
-const std::vector<Walk (*)(Clerk&)> walks{collection_walk, record_form_walk,  invoice_walk,
+const std::vector<Walk (*)(Clerk&)> walks{collection_walk, record_form_walk,  invoice_walk,  renumbering_walk,
                                           day_walk,        student_file_walk, newcomers_walk};
 
 int walk_all(const QString& folder) {

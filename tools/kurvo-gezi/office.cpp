@@ -66,6 +66,11 @@ void draw_invoice_form() {
     text_file::write_lines(school::default_root + u"data\\Fatura.txt"_s, lines);
 }
 
+// Whoever sets a school up lays the file there; its text is the clerk's.
+void lay_contract() {
+    text_file::write_lines(school::default_root + u"data\\Sozlesme.txt"_s, {u"Sözleşme hükümleri"_s});
+}
+
 // Any student's photograph will do.
 void put_a_picture_before_the_camera() {
     const QString folder = school::photo_folder(school::default_root);
@@ -86,6 +91,14 @@ void hand_over(const QString& root, const QString& user) {
     launch::prepare(values);
 }
 
+template <typename Act>
+void scan_cash_of_today(const QString& reference_file, Act act) {
+    store::Database reference = store::OpenDatabase(reference_file);
+    store::Recordset cash = reference.OpenRecordset("Kasa");
+    cash.Index("TSX");
+    store::scan_prefix(cash, {dates::key(clock_source::today())}, [&] { act(cash); });
+}
+
 }  // namespace
 
 Office::Office(const QString& papers)
@@ -95,6 +108,7 @@ Office::Office(const QString& papers)
     see_drives(own_drives_->path(), papers);
     make_school();
     draw_invoice_form();
+    lay_contract();
     put_a_picture_before_the_camera();
     hand_over(root_, sample::user_code);
 }
@@ -153,12 +167,15 @@ std::vector<OpenInstalment> Office::open_instalments(int number) const {
 }
 
 std::int64_t Office::cash_of_today() const {
-    store::Database reference = store::OpenDatabase(reference_file());
-    store::Recordset cash = reference.OpenRecordset("Kasa");
-    cash.Index("TSX");
     double sum = 0;
-    store::scan_prefix(cash, {dates::key(clock_source::today())}, [&] { sum += cash["TUTAR"].number(); });
+    scan_cash_of_today(reference_file(), [&](store::Recordset& cash) { sum += cash["TUTAR"].number(); });
     return std::llround(sum);
+}
+
+QStringList Office::cash_lines_of_today() const {
+    QStringList lines;
+    scan_cash_of_today(reference_file(), [&](store::Recordset& cash) { lines += cash["ACK"].text(); });
+    return lines;
 }
 
 int Office::payments_of_today(int number) const {

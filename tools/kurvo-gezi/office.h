@@ -27,7 +27,8 @@ struct Workstation {
 // Sets KURVO_DRIVES and KURVO_PRINTER for the process, its clock, and the hand-over file of one start.
 class Office {
 public:
-    // A demo school in a temporary folder of drives, on the sample's present day; papers become PDF files in `papers`.
+    // A demo school in a temporary folder of drives, on the sample's present day, with a contract of one clause; papers
+    // become PDF files in `papers`.
     explicit Office(const QString& papers);
     // A desk at a school that exists, in its default term.
     explicit Office(const Workstation& desk);
@@ -41,6 +42,7 @@ public:
     Person debtor() const;                 // with a photograph and at least four open instalments
     std::vector<OpenInstalment> open_instalments(int number) const;
     std::int64_t cash_of_today() const;       // what Kasa holds of the present day
+    QStringList cash_lines_of_today() const;  // their texts, oldest first
     int payments_of_today(int number) const;  // rows of Tahsilat
     QString term_file() const;
     QString reference_file() const;

@@ -1,10 +1,9 @@
-// A new student is entered: fee and plan, contract and notes, saved; then a look at the transfer from another term.
+// A new student is entered: bus stop, fee and plan, contract and notes, saved; then a look at the transfer from another
+// term.
 #include "platform/numbers.h"
 #include "walk.h"
 
 #include <QTest>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +12,17 @@ namespace {
 const QString new_name = u"GÜLŞAH ÇİĞDEM ÖZGÜRLÜOĞLU"_s;
 constexpr int instalments = 10;
 
+// An empty line keeps the first clause clear of its frame; one that begins with a blank is printed further in.
+const QStringList clauses{u""_s,
+                          u"1- Kayıt, bu sözleşmenin imzalanması ve ilk taksidin ödenmesiyle kesinleşir."_s,
+                          u"2- Taksitler, ödeme planındaki vadelerde kurumun veznesine ödenir."_s,
+                          u"  a) Her ödeme için makbuz ya da fatura verilir."_s,
+                          u"  b) Vadesinde ödenmeyen taksit veliye bildirilir."_s,
+                          u"3- Ders saatlerini ve öğretmenleri kurum belirler; değişiklik bir gün önceden duyurulur."_s,
+                          u"4- Öğrencinin devamsızlığı aynı gün veliye bildirilir."_s,
+                          u"5- Dershaneden ayrılmak isteyen öğrencinin velisi, kuruma yazılı olarak başvurur."_s,
+                          u"6- Bu sözleşme iki nüsha olarak düzenlenmiş ve imzalanmıştır."_s};
+
 class Enrolment {
 public:
     explicit Enrolment(Clerk& clerk) : clerk_(clerk), kurvo_(clerk.kurvo()) {}
@@ -20,8 +30,11 @@ public:
     void open_on_student();
     void clear();
     void fill();
+    void open_stops();
+    void pick_stop();
     void open_plan_panel();
     void make_plan();
+    void write_clauses();
     void print_contract();
     void open_notes();
     void print_notes();
@@ -30,7 +43,7 @@ public:
     void close();
 
 private:
-    KurvoYeni& form();
+    KurvoYeni& form() { return clerk_.record_form(); }
     void must_print(int papers);
 
     Clerk& clerk_;
@@ -39,12 +52,6 @@ private:
     int listed_before_ = 0;
     int papers_before_ = 0;
 };
-
-KurvoYeni& Enrolment::form() {
-    KurvoYeni* open = clerk_.program().record_form();
-    must(open != nullptr, u"the record form is not open"_s);
-    return *open;
-}
 
 void Enrolment::must_print(int papers) {
     must(clerk_.papers().size() == papers_before_ + papers, u"the paper was not printed"_s);
@@ -83,6 +90,20 @@ void Enrolment::fill() {
     clerk_.type(form().KTUTAR, u"25000"_s);
 }
 
+void Enrolment::open_stops() {
+    clerk_.press(form().CommandSERVISBUL);
+    must(form().FrameSERVIS->isVisible() && form().TABLO->rows() > 2, u"the bus stops are not shown"_s);
+}
+
+// The second stop of the first route.
+void Enrolment::pick_stop() {
+    const QString route = form().TABLO->text(2, 0), stop = form().TABLO->text(2, 1);
+    clerk_.click_cell(*form().TABLO, 2, 2);
+    must(!form().FrameSERVIS->isVisible(), u"the bus stops stay"_s);
+    must(numbers::val(stop) > 0 && form().SERVISNO->text() == route && form().DURAKNO->text() == stop,
+         u"the stop is not on the form"_s);
+}
+
 void Enrolment::open_plan_panel() {
     clerk_.press(form().CommandYARAT);
     must(form().Frame3->isVisible(), u"the panel of the automatic plan is not shown"_s);
@@ -97,7 +118,16 @@ void Enrolment::make_plan() {
     must(form().YBORC->text() == u"25000", u"the plan is not the fee"_s);
 }
 
+void Enrolment::write_clauses() {
+    clerk_.press(form().CommandSOZLESME);
+    must(form().FrameSozlesme->isVisible(), u"the clauses are not shown"_s);
+    clerk_.write(form().Text_Soz, clauses);
+}
+
 void Enrolment::print_contract() {
+    clerk_.prompts().expect(u"Sözleşme Kaydedildi."_s);
+    clerk_.press(form().CommandSave);
+    clerk_.press(form().CommandGeridon);
     papers_before_ = static_cast<int>(clerk_.papers().size());
     clerk_.press(form().CommandYAZ);
     must_print(1);
@@ -144,15 +174,17 @@ void Enrolment::close() {
 }  // namespace
 
 Walk record_form_walk(Clerk& clerk) {
-    const auto self = std::make_shared<Enrolment>(clerk);
-    const auto doing = [&](void (Enrolment::*act)()) { return [self, act] { (*self.*act)(); }; };
+    const auto doing = steps_of(std::make_shared<Enrolment>(clerk));
     const std::vector<QSize> both{screens::large, screens::small};
     const std::vector<QSize> one{screens::large};
     return {{u"kayit-formu"_s, both, doing(&Enrolment::open_on_student)},
             {u"kayit-formu-bos"_s, one, doing(&Enrolment::clear)},
             {u"kayit-formu-dolu"_s, one, doing(&Enrolment::fill)},
+            {u"servis"_s, {screens::small}, doing(&Enrolment::open_stops)},
+            {u"durak"_s, {}, doing(&Enrolment::pick_stop)},
             {u"otomatik-plan"_s, both, doing(&Enrolment::open_plan_panel)},
             {u"plan"_s, one, doing(&Enrolment::make_plan)},
+            {u"sozlesme-metni"_s, {screens::small}, doing(&Enrolment::write_clauses)},
             {u"sozlesme"_s, {}, doing(&Enrolment::print_contract)},
             {u"senet-metni"_s, one, doing(&Enrolment::open_notes)},
             {u"senetler"_s, one, doing(&Enrolment::print_notes)},

@@ -6,6 +6,7 @@
 #include <QSize>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace screens {
@@ -22,6 +23,12 @@ struct Step {
 };
 using Walk = std::vector<Step>;
 
+// Makes the acts of steps from the routines of one actor, who lives as long as they do.
+template <typename Actor>
+auto steps_of(std::shared_ptr<Actor> actor) {
+    return [actor](void (Actor::*act)()) { return [actor, act] { (*actor.*act)(); }; };
+}
+
 // Does the steps in order. Says each file that was written, or which step did not show what it must; false then,
 // with a picture of what it showed.
 bool go(const Walk& walk, Clerk& clerk);
@@ -30,6 +37,7 @@ bool go(const Walk& walk, Clerk& clerk);
 Walk collection_walk(Clerk& clerk);
 Walk record_form_walk(Clerk& clerk);
 Walk invoice_walk(Clerk& clerk);
+Walk renumbering_walk(Clerk& clerk);
 Walk day_walk(Clerk& clerk);
 Walk student_file_walk(Clerk& clerk);
 Walk newcomers_walk(Clerk& clerk);

@@ -60,12 +60,6 @@ void Desk::must_print(qsizetype papers) {
     must(clerk.papers().size() == papers, u"%1 papers and not %2"_s.arg(clerk.papers().size()).arg(papers));
 }
 
-KurvoYeni& Desk::form() {
-    KurvoYeni* open = clerk.program().record_form();
-    must(open != nullptr, u"the record form is not open"_s);
-    return *open;
-}
-
 void Desk::open_record_form() {
     clerk.press(kurvo.CommandYENI);
     must(QTest::qWaitFor([&] { return form().isActiveWindow(); }), u"the record form is not active"_s);

@@ -39,7 +39,7 @@ public:
     void take(const Collection& collection);      // up to the button that posts
     void post();                                  // must bring the paper that was chosen
 
-    KurvoYeni& form();
+    KurvoYeni& form() { return clerk.record_form(); }
     void open_record_form();
     void add_instalment(const PlanRow& row);
     void print_contract_and_notes();
