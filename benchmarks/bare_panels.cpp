@@ -30,11 +30,6 @@ QString whole(double number) {
 
 }  // namespace
 
-void BareTable::set_rows(int rows) {
-    cells_.setRowCount(0);
-    cells_.setRowCount(rows);
-}
-
 RawNames::RawNames() : reference_(BigSchool::reference_file) {}
 
 const std::string& RawNames::lesson(const std::string& code) {

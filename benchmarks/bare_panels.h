@@ -1,30 +1,15 @@
 // The overview's attendance and session tabs and the day board, read raw and set in ordinary tables.
 #pragma once
 
+#include "bare_table.h"
 #include "raw_store.h"
 
 #include <QLabel>
-#include <QStandardItemModel>
-#include <QTableView>
 
 #include <array>
 #include <unordered_map>
 
 namespace bench {
-
-class BareTable {
-public:
-    explicit BareTable(int columns) : cells_(0, columns) { view_.setModel(&cells_); }
-
-    int rows() const { return cells_.rowCount(); }
-    void set_rows(int rows);  // all cells are new
-    void set(int row, int column, const QString& text) { cells_.setItem(row, column, new QStandardItem(text)); }
-    void set(int row, int column, const std::string& utf8) { set(row, column, QString::fromStdString(utf8)); }
-
-private:
-    QStandardItemModel cells_;
-    QTableView view_;
-};
 
 // The names as the panels ask for them: the reference file opened anew, each code sought once.
 class RawNames {

@@ -18,6 +18,7 @@ void measure_dossier(Table& table, const BigSchool& school);
 void measure_rich_text(Table& table, const BigSchool& school);
 void measure_panels(Table& table, const BigSchool& school);
 void measure_import(Table& table, const BigSchool& school);
+void measure_server(Table& table, const BigSchool& school);
 void measure_peers(Table& table, const BigSchool& school);
 // Prints a table of its own.
 void measure_growth(const QString& build_folder);

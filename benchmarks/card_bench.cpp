@@ -1,5 +1,6 @@
 // A student's card with the open instalments, for two students in turn, so that every text changes each time.
 #include "bare_form.h"
+#include "bare_table.h"
 #include "benches.h"
 #include "platform/paths.h"
 #include "raw_store.h"
@@ -8,8 +9,6 @@
 
 #include <QImageReader>
 #include <QKeyEvent>
-#include <QStandardItemModel>
-#include <QTableView>
 
 #include <algorithm>
 #include <array>
@@ -47,25 +46,32 @@ std::array<Pictured, 2> two_students() {
 // Rows of a student in an ordinary table.
 class BareRows {
 public:
-    BareRows(RawStatement statement, int columns) : rows_(std::move(statement)), cells_(0, columns) {
-        view_.setModel(&cells_);
+    BareRows(RawStatement statement, int columns)
+        : statement_(std::move(statement)), table_(columns), columns_(columns) {}
+
+    // `see` is shown each row while it is read.
+    template <typename See>
+    void show(double student, See see) {
+        std::vector<std::string> texts;
+        statement_.bind(1, student);
+        while (statement_.step()) {
+            see(statement_);
+            for (int column = 0; column < columns_; ++column) texts.push_back(statement_.text(column));
+        }
+        statement_.reset();
+        table_.set_rows(static_cast<int>(texts.size()) / columns_);
+        auto text = texts.cbegin();
+        for (int row = 0; row < table_.rows(); ++row)
+            for (int column = 0; column < columns_; ++column) table_.set(row, column, *text++);
     }
     void show(double student) {
-        cells_.setRowCount(0);
-        rows_.bind(1, student);
-        while (rows_.step()) {
-            const int row = cells_.rowCount();
-            cells_.insertRow(row);
-            for (int column = 0; column < cells_.columnCount(); ++column)
-                cells_.setItem(row, column, new QStandardItem(QString::fromStdString(rows_.text(column))));
-        }
-        rows_.reset();
+        show(student, [](const RawStatement&) {});
     }
 
 private:
-    RawStatement rows_;
-    QStandardItemModel cells_;
-    QTableView view_;
+    RawStatement statement_;
+    BareTable table_;
+    const int columns_;
 };
 
 // Reads what the card and the panels behind it show and puts it into the same labels and ordinary tables.
@@ -82,16 +88,15 @@ private:
     void show_names();
 
     BareForm form_;
-    QTableView view_;
-    QStandardItemModel cells_{0, 6};
     RawFile term_{BigSchool::term_file};
     RawStatement row_ = term_.prepare(
         "SELECT ADSOY, SINIF, KAYTAR, VATNO, TEL, VELI, VTEL, VGSM, ANNE, AEVTEL, AGSMTEL, BABA, BEVTEL, BGSMTEL, "
         "GELOKUL, OKULNO, ACK, GRUP, BOLUM, DIN, VELI, ADRES1, ADRES2, AILCE, AIL, AYYER, SAKLA, RESIM "
         "FROM Ogrenci WHERE ONO=?");
     RawStatement class_ = term_.prepare("SELECT ACK FROM Sinif WHERE SINIF=?");
-    RawStatement plan_ = term_.prepare(
-        "SELECT VADE, TUTAR, ODENEN, ODSEK, ACK, CYER FROM Odeme INDEXED BY \"Odeme.OVX\" WHERE ONO=? ORDER BY VADE");
+    BareRows plan_{term_.prepare("SELECT VADE, TUTAR, ODENEN, ODSEK, ACK, CYER FROM Odeme INDEXED BY \"Odeme.OVX\" "
+                                 "WHERE ONO=? ORDER BY VADE"),
+                   6};
     BareRows payments_{term_.prepare("SELECT VADE, KASAFNO, TARIH, ODENEN FROM Tahsilat WHERE ONO=?"), 4};
     BareRows absences_{term_.prepare("SELECT TARIH, IZINLI, IZINSIZ, RAPORLU, DKOD, (SELECT ACK FROM Dmazeret m WHERE "
                                      "m.ONO=d.ONO AND m.TARIH=d.TARIH) FROM Devam d WHERE ONO=? ORDER BY TARIH, DKOD"),
@@ -107,9 +112,7 @@ private:
 };
 
 BareCard::BareCard() {
-    view_.setModel(&cells_);
     form_.show();
-    view_.show();
     QCoreApplication::processEvents();
 }
 
@@ -150,17 +153,10 @@ void BareCard::show_labels() {
 
 void BareCard::show_instalments(double student) {
     double amount = 0, paid = 0;
-    cells_.setRowCount(0);
-    plan_.bind(1, student);
-    while (plan_.step()) {
-        const int row = cells_.rowCount();
-        cells_.insertRow(row);
-        for (int column = 0; column < 6; ++column)
-            cells_.setItem(row, column, new QStandardItem(QString::fromStdString(plan_.text(column))));
-        amount += plan_.number(1);
-        paid += plan_.number(2);
-    }
-    plan_.reset();
+    plan_.show(student, [&](const RawStatement& instalment) {
+        amount += instalment.number(1);
+        paid += instalment.number(2);
+    });
     form_.TTUTAR->setText(QString::number(amount));
     form_.TODENEN->setText(QString::number(paid));
     form_.TBORC->setText(QString::number(amount - paid));

@@ -42,7 +42,8 @@ int main(int argc, char** argv) {
         for (const auto measure : {bench::measure_store, bench::measure_list, bench::measure_card, bench::measure_start,
                                    bench::measure_posting, bench::measure_search, bench::measure_record_form,
                                    bench::measure_renumbering, bench::measure_rich_text, bench::measure_dossier,
-                                   bench::measure_import, bench::measure_peers, bench::measure_panels})
+                                   bench::measure_import, bench::measure_peers, bench::measure_panels,
+                                   bench::measure_server})
             measure(table, school);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());

@@ -35,7 +35,8 @@ void spread_over_lessons(RawFile& term, double student) {
         term.prepare(sql).bind(1, student).run();
 }
 
-// As many bookings of other days as the table needs, and a day of sixty sessions that five students share each.
+// As many bookings of other days as the table needs, at most eight for each student, and a day of sixty sessions that
+// five students share each.
 void book(RawFile& term) {
     term.prepare(
             "INSERT INTO Etud (ONO, TARIH, SAAT, BITSAAT, KOD, SICIL, GIRDI, KONU) "
@@ -55,11 +56,13 @@ void book(RawFile& term) {
 
 // Two students take turns, so that texts change with each fill.
 void make_rows(const std::array<double, 2>& students) {
-    for (const double student : students) give_rows(student, {12, 20, absences, sessions});
     RawFile term(BigSchool::term_file);
     term.run("BEGIN IMMEDIATE");
-    for (const double student : students) spread_over_lessons(term, student);
     book(term);
+    term.run("COMMIT");
+    for (const double student : students) give_rows(student, {12, 20, absences, sessions});
+    term.run("BEGIN IMMEDIATE");
+    for (const double student : students) spread_over_lessons(term, student);
     term.run("COMMIT");
 }
 

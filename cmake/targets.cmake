@@ -26,6 +26,13 @@ function(kurvo_test folder)
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR}")
 endfunction()
 
+# kurvo_test_on_server(FOLDER [functions...]): the same once more, or some of it, with the files on a database server.
+function(kurvo_test_on_server folder)
+  add_test(NAME ${folder}_mariadb COMMAND ${folder}_test ${ARGN})
+  set_tests_properties(${folder}_mariadb PROPERTIES TIMEOUT 300
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR};KURVO_TEST_ENGINE=mariadb")
+endfunction()
+
 # One lean precompiled header for all: it halves the compile time of a file.
 function(kurvo_precompile target)
   if(NOT TARGET kurvo_pch)

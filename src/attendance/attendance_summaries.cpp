@@ -38,11 +38,32 @@ private:
     Hours sums_;
 };
 
-void add_to_lesson(GridView& lessons, int row, const Hours& hours) {
-    int column = lesson_grid::first_counter;
-    for (const double missed : hours) {
-        if (missed > 0) lessons.set_text(row, column, numbers::plain(numbers::val(lessons.text(row, column)) + missed));
-        ++column;
+struct TaughtLesson {
+    int row;
+    QString name;
+    Hours missed{};
+};
+
+// Of two rows with one code the first counts.
+QHash<QString, TaughtLesson> lessons_by_code(const GridView& grid) {
+    QHash<QString, TaughtLesson> lessons;
+    for (int row = grid.rows() - 1; row >= grid.fixed_rows(); --row)
+        lessons.insert(grid.text(row, lesson_grid::code), {row, grid.text(row, lesson_grid::name)});
+    return lessons;
+}
+
+void add_missed(Hours& sums, const Hours& hours) {
+    for (std::size_t i = 0; i < sums.size(); ++i) sums[i] += std::max(hours[i], 0.0);
+}
+
+// What was never missed stays empty.
+void show_missed(GridView& grid, const QHash<QString, TaughtLesson>& lessons) {
+    for (const TaughtLesson& lesson : lessons) {
+        int column = lesson_grid::first_counter;
+        for (const double missed : lesson.missed) {
+            if (missed > 0) grid.set_text(lesson.row, column, numbers::plain(missed));
+            ++column;
+        }
     }
 }
 
@@ -100,15 +121,17 @@ void AttendanceSummaries::fill(const Tab& tab) {
 
 void AttendanceSummaries::read_absences(const Tab& tab) {
     devam_kayitlari_.clear();
+    QHash<QString, TaughtLesson> lessons = lessons_by_code(tab.lessons);
     store::Recordset absences = tab.tables.open_absences(session_.termDb);
     store::scan_prefix(absences, {numbers::val(kurvo_.LONO->text())}, [&] {
         Absence absence{absences["DKOD"].text(), absences["TARIH"].text(), hours_of(absences), {}};
-        if (const int row = lesson_grid::row_of(tab.lessons, absence.code); row >= 0) {
-            absence.lesson = tab.lessons.text(row, lesson_grid::name);
-            add_to_lesson(tab.lessons, row, absence.hours);
+        if (const auto lesson = lessons.find(absence.code); lesson != lessons.end()) {
+            absence.lesson = lesson->name;
+            add_missed(lesson->missed, absence.hours);
         }
         devam_kayitlari_.push_back(std::move(absence));
     });
+    show_missed(tab.lessons, lessons);
 }
 
 // By day, in one read: over the office's network a seek for each day would take a lock of its own.

@@ -9,18 +9,23 @@
 #include <QThread>
 
 // Draws the clock's time (HHMMSS) until `taken` says that no row has it, and runs `write` with it; returns the
-// time. Seek and row are one commit, so that two workstations in the same second cannot collide. Between two
-// draws the file is free and the processor too.
+// time. Seek and row are one commit, so that two workstations in the same second cannot collide; two at different
+// nodes of a cluster can, and the later one draws again. Between two draws the file is free and the processor too.
 template <typename Taken, typename Write>
 QString write_at_free_time(store::Database& database, Taken taken, Write write) {
     constexpr unsigned long pause_ms = 10;
-    for (;; QThread::msleep(pause_ms)) {
-        store::WriteScope scope(database);
-        const QString time = dates::time_key(clock_source::now().time());
-        if (taken(time)) continue;
-        write(time);
-        scope.commit();
-        return time;
+    constexpr int most_collisions = 20;
+    for (int collisions = 0;; QThread::msleep(pause_ms)) {
+        try {
+            store::WriteScope scope(database);
+            const QString time = dates::time_key(clock_source::now().time());
+            if (taken(time)) continue;
+            write(time);
+            scope.commit();
+            return time;
+        } catch (const std::system_error& failure) {
+            if (failure.code() != store::Errc::duplicate_key || ++collisions > most_collisions) throw;
+        }
     }
 }
 

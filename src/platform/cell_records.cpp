@@ -1,12 +1,9 @@
 #include "platform/cell_records.h"
 
 #include "platform/rtf_code_pages.h"
-#include "platform/workbook_sheet.h"
-
-#include <QtEndian>
 
 #include <algorithm>
-#include <bit>
+#include <utility>
 
 namespace workbook {
 
@@ -14,39 +11,35 @@ namespace {
 
 constexpr std::uint16_t continuation = 0x003C;
 constexpr qsizetype header_size = 4;
+constexpr qsizetype usual_piece = 32 * 1024;  // bytes; four of the longest records that Excel writes
 
 }  // namespace
 
-QByteArrayView RecordView::bytes(qsizetype at, qsizetype count) const {
-    if (at < 0 || count < 0 || at > size() || count > size() - at) throw damaged();
-    return bytes_.sliced(at, count);
-}
-
-std::uint8_t RecordView::byte(qsizetype at) const {
-    return static_cast<std::uint8_t>(bytes(at, 1)[0]);
-}
-std::uint16_t RecordView::word(qsizetype at) const {
-    return qFromLittleEndian<std::uint16_t>(bytes(at, 2).data());
-}
-std::uint32_t RecordView::long_word(qsizetype at) const {
-    return qFromLittleEndian<std::uint32_t>(bytes(at, 4).data());
-}
-double RecordView::number(qsizetype at) const {
-    return std::bit_cast<double>(qFromLittleEndian<std::uint64_t>(bytes(at, 8).data()));
-}
-
-Records::Records(QByteArrayView stream, std::uint32_t begin) : stream_(stream), at_(begin) {
-    if (at_ >= stream_.size()) throw damaged();
+Records::Records(ByteStream& stream, std::uint32_t begin)
+    : stream_(stream), at_(begin), end_(stream.size()), piece_(static_cast<std::size_t>(usual_piece)) {
+    if (at_ >= end_) throw damaged();
 }
 
 bool Records::next() {
-    if (stream_.size() - at_ < header_size) return false;
-    const RecordView rest(stream_.sliced(at_));
-    id_ = rest.word(0);
-    const std::uint16_t length = rest.word(2);
-    view_ = RecordView(rest.bytes(header_size, length));
-    at_ += header_size + length;
+    if (end_ - at_ < header_size) return false;
+    const RecordView header(bytes(header_size));
+    id_ = header.word(0);
+    const std::uint16_t length = header.word(2);
+    at_ += header_size;
+    view_ = RecordView(bytes(length));
+    at_ += length;
     return true;
+}
+
+QByteArrayView Records::bytes(qsizetype count) {
+    if (count > end_ - at_) throw damaged();
+    if (at_ + count > piece_begin_ + piece_size_) {
+        piece_begin_ = at_;
+        piece_size_ = std::min(std::max(count, usual_piece), end_ - at_);
+        if (std::cmp_greater(piece_size_, piece_.size())) piece_.resize(static_cast<std::size_t>(piece_size_));
+        stream_.read(at_, piece_.data(), piece_size_);
+    }
+    return QByteArrayView(piece_.data(), piece_size_).sliced(at_ - piece_begin_, count);
 }
 
 void ContinuedReader::go_on() {
@@ -89,20 +82,20 @@ QString ContinuedReader::text() {
 
 // Where the letters go on in another record, it begins with a new mark of their width.
 QString ContinuedReader::letters(qsizetype count, bool wide) {
-    QString text;
+    QString text(count, Qt::Uninitialized);
+    QChar* to = text.data();
     while (count > 0) {
         if (left() <= 0) wide = (byte() & 1) != 0;
         const qsizetype width = wide ? 2 : 1;
         const qsizetype here = std::min(count, left() / width);
         if (here == 0) throw damaged();
         const QByteArrayView bytes = records_.view().bytes(at_, here * width);
-        const qsizetype before = text.size();
-        text.resize(before + here);
         if (wide)
-            qFromLittleEndian<char16_t>(bytes.data(), here, text.data() + before);
+            qFromLittleEndian<char16_t>(bytes.data(), here, to);
         else
-            std::ranges::transform(bytes, text.data() + before, [](char letter) { return QLatin1Char(letter); });
+            std::ranges::transform(bytes, to, [](char letter) { return QLatin1Char(letter); });
         at_ += bytes.size();
+        to += here;
         count -= here;
     }
     return text;

@@ -1,10 +1,16 @@
 // The records of an .xls file: a stream of pieces, each with a number that says what it is, a length and bytes.
 #pragma once
 
+#include "platform/compound_file.h"
+#include "platform/workbook_sheet.h"
+
 #include <QByteArray>
 #include <QString>
+#include <QtEndian>
 
+#include <bit>
 #include <cstdint>
+#include <vector>
 
 namespace workbook {
 
@@ -15,29 +21,42 @@ public:
     explicit RecordView(QByteArrayView bytes) : bytes_(bytes) {}
 
     qsizetype size() const { return bytes_.size(); }
-    std::uint8_t byte(qsizetype at) const;
-    std::uint16_t word(qsizetype at) const;
-    std::uint32_t long_word(qsizetype at) const;
-    double number(qsizetype at) const;
-    QByteArrayView bytes(qsizetype at, qsizetype count) const;
+    std::uint8_t byte(qsizetype at) const { return whole<std::uint8_t>(at); }
+    std::uint16_t word(qsizetype at) const { return whole<std::uint16_t>(at); }
+    std::uint32_t long_word(qsizetype at) const { return whole<std::uint32_t>(at); }
+    double number(qsizetype at) const { return std::bit_cast<double>(whole<std::uint64_t>(at)); }
+    QByteArrayView bytes(qsizetype at, qsizetype count) const {
+        if (at < 0 || count < 0 || at > size() || count > size() - at) throw damaged();
+        return bytes_.sliced(at, count);
+    }
 
 private:
+    template <typename Whole>
+    Whole whole(qsizetype at) const {
+        return qFromLittleEndian<Whole>(bytes(at, sizeof(Whole)).data());
+    }
+
     QByteArrayView bytes_;
 };
 
-// Goes through the records of a stream, which must outlive it.
+// Goes through the records of a stream, which must outlive it. Reads a piece of the stream at a time.
 class Records {
 public:
-    explicit Records(QByteArrayView stream, std::uint32_t begin = 0);
+    explicit Records(ByteStream& stream, std::uint32_t begin = 0);
 
     // To the next record; false at the end of the stream. Throws damaged() for a record that is cut.
     bool next();
     std::uint16_t id() const { return id_; }
-    const RecordView& view() const { return view_; }
+    const RecordView& view() const { return view_; }  // until the next one
 
 private:
-    QByteArrayView stream_;
+    QByteArrayView bytes(qsizetype count);  // at the place where it stands
+
+    ByteStream& stream_;
     qsizetype at_;
+    const qsizetype end_;
+    std::vector<char> piece_;
+    qsizetype piece_begin_ = 0, piece_size_ = 0;
     std::uint16_t id_ = 0;
     RecordView view_;
 };

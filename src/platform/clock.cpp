@@ -1,5 +1,7 @@
 #include "platform/clock.h"
 
+#include <QStringBuilder>
+
 namespace clock_source {
 
 QDateTime now() {
@@ -38,7 +40,8 @@ QDate from_key(const QString& key) {
 }
 
 QString shown(const QString& key) {
-    return key.mid(6, 2) + point + key.mid(4, 2) + point + key.left(4);
+    const QStringView text(key);
+    return text.mid(6, 2) % point % text.mid(4, 2) % point % text.left(4);
 }
 
 QString shown(const QDate& date) {

@@ -22,7 +22,8 @@ public:
     int rows() const;  // the last one that holds anything; 0 for an empty sheet
 
 private:
-    explicit Workbook(std::vector<workbook::Cell> cells) : cells_(std::move(cells)) {}
+    explicit Workbook(workbook::Table table);
 
-    std::vector<workbook::Cell> cells_;  // by row and column, each place once
+    workbook::Table table_;
+    std::vector<std::uint32_t> first_cells_;  // of each row, by its number, and the end
 };

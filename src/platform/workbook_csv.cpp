@@ -128,7 +128,7 @@ QChar take_told_separator(QStringView& text) {
 
 }  // namespace
 
-std::vector<Cell> read_csv(const QByteArray& file) {
+Table read_csv(const QByteArray& file) {
     QString whole = text_of_file(file);
     if (whole.endsWith(u'\x1A')) whole.chop(1);  // the end of a text as old programs mark it
     if (!is_table_text(whole)) throw no_workbook();

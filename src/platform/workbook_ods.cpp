@@ -1,6 +1,6 @@
 // .ods: the sheets stand one behind the other in one part; the settings name the active one.
-#include "platform/workbook_package.h"
 #include "platform/workbook_readers.h"
+#include "platform/workbook_xml.h"
 
 #include <QDateTime>
 #include <QRegularExpression>
@@ -20,7 +20,7 @@ bool asks_for_password(Package& package) {
     if (!package.has(manifest)) return false;
     XmlPart xml(package, manifest);
     while (xml.next())
-        if (xml.starts() && xml.is(u"encryption-data")) return true;
+        if (xml.starts() && xml.is("encryption-data")) return true;
     return false;
 }
 
@@ -29,13 +29,14 @@ QString active_sheet(Package& package) {
     if (!package.has(settings)) return {};
     XmlPart xml(package, settings);
     while (xml.next())
-        if (xml.starts() && xml.is(u"config-item") && xml.attribute(u"name") == u"ActiveTable") return xml.text();
+        if (xml.starts() && xml.is("config-item") && xml.attribute("name") == u"ActiveTable")
+            return text_of_utf8(xml.text());
     return {};
 }
 
-std::int64_t repeated(const XmlPart& xml, QStringView attribute) {
-    const QStringView times = xml.attribute_view(attribute);
-    return times.isEmpty() ? 1 : std::clamp<std::int64_t>(times.toLongLong(), 1, most_rows);
+std::int64_t repeated(const XmlPart& xml, std::string_view attribute) {
+    return static_cast<std::int64_t>(
+        std::clamp<std::uint64_t>(whole_number(xml.written(attribute)).value_or(1), 1, most_rows));
 }
 
 // Days since the day on which a spreadsheet begins to count, as the other formats store a date.
@@ -73,13 +74,13 @@ public:
 private:
     // Whether the element has been read to its end.
     bool takes_element(XmlPart& xml) {
-        if (xml.is(u"s"))
-            text_.append(QString(std::min(repeated(xml, u"c"), room()), u' '));
-        else if (xml.is(u"tab") && room() > 0)
+        if (xml.is("s"))
+            text_.append(QString(std::min(repeated(xml, "c"), room()), u' '));
+        else if (xml.is("tab") && room() > 0)
             text_ += u'\t';
-        else if (xml.is(u"line-break") && room() > 0)
+        else if (xml.is("line-break") && room() > 0)
             text_ += u'\n';
-        else if (!xml.is(u"annotation") && !xml.is(u"note") && !xml.is(u"frame") && !xml.is(u"ruby-text"))
+        else if (!xml.is("annotation") && !xml.is("note") && !xml.is("frame") && !xml.is("ruby-text"))
             return false;
         xml.skip();
         blank_counts_ = true;
@@ -100,13 +101,13 @@ private:
 
 // The cell on which the reader stands, to its end.
 QString read_cell(XmlPart& xml) {
-    const QString type = xml.attribute(u"value-type"), value = xml.attribute(u"value");
-    const QString date = xml.attribute(u"date-value"), time = xml.attribute(u"time-value");
-    const QString truth = xml.attribute(u"boolean-value"), stored = xml.attribute(u"string-value");
+    const QString type = xml.attribute("value-type"), value = xml.attribute("value");
+    const QString date = xml.attribute("date-value"), time = xml.attribute("time-value");
+    const QString truth = xml.attribute("boolean-value"), stored = xml.attribute("string-value");
     QStringList paragraphs;
     qsizetype length = 0;
     while (xml.next_child()) {
-        if (!xml.is(u"p") || length > longest_text) {
+        if (!xml.is("p") || length > longest_text) {
             xml.skip();
             continue;
         }
@@ -119,23 +120,22 @@ QString read_cell(XmlPart& xml) {
     if (type == u"date" && !date.isEmpty()) return days_of_date(date);
     if (type == u"time" && !time.isEmpty()) return days_of_time(time);
     if (type == u"boolean") return text_of(truth == u"true");
-    return (stored.isEmpty() ? paragraphs.join(u'\n') : stored).left(longest_text);
+    return stored.isEmpty() ? paragraphs.join(u'\n') : stored;
 }
 
 struct Repeated {
     std::int64_t column, columns;
-    QString text;
+    Text text;
 };
 
 std::vector<Repeated> read_row(XmlPart& xml, Sheet& sheet) {
     std::vector<Repeated> cells;
     std::int64_t column = 1;
     while (xml.next_child()) {
-        const std::int64_t columns = repeated(xml, u"number-columns-repeated");
-        if (xml.is(u"table-cell")) {
-            const QString text = read_cell(xml);
-            sheet.count(text);
-            if (!text.isEmpty()) cells.push_back({column, columns, text});
+        const std::int64_t columns = repeated(xml, "number-columns-repeated");
+        if (xml.is("table-cell")) {
+            const Text text = sheet.keep(read_cell(xml));
+            if (text.length > 0) cells.push_back({column, columns, text});
         } else {
             xml.skip();  // covered by a merged cell, so nobody sees it
         }
@@ -147,24 +147,24 @@ std::vector<Repeated> read_row(XmlPart& xml, Sheet& sheet) {
 void add_row(Sheet& sheet, const std::vector<Repeated>& cells, std::int64_t row) {
     for (const Repeated& cell : cells)
         for (std::int64_t column = cell.column; column < cell.column + cell.columns; ++column)
-            sheet.add_counted(row, column, cell.text);
+            sheet.add(row, column, cell.text);
 }
 
 // Rows may stand in groups and headers. Rows that repeat nothing are not gone through: the last one often stands for
 // the rest of the sheet.
-std::vector<Cell> read_table(XmlPart& xml) {
+Table read_table(XmlPart& xml) {
     Sheet sheet;
     std::int64_t row = 1;
     for (int depth = 1; depth > 0;) {
         xml.next();
         if (xml.ends()) --depth;
         if (!xml.starts()) continue;
-        if (xml.is(u"table-row")) {
-            const std::int64_t rows = repeated(xml, u"number-rows-repeated");
+        if (xml.is("table-row")) {
+            const std::int64_t rows = repeated(xml, "number-rows-repeated");
             const std::vector<Repeated> cells = read_row(xml, sheet);
             for (std::int64_t i = 0; i < rows && !cells.empty(); ++i) add_row(sheet, cells, row + i);
             row += rows;
-        } else if (xml.is(u"table-row-group") || xml.is(u"table-rows") || xml.is(u"table-header-rows")) {
+        } else if (xml.is("table-row-group") || xml.is("table-rows") || xml.is("table-header-rows")) {
             ++depth;
         } else {
             xml.skip();
@@ -174,13 +174,13 @@ std::vector<Cell> read_table(XmlPart& xml) {
 }
 
 // On the element "spreadsheet". The first table stands in for an active one that is not there.
-std::vector<Cell> read_spreadsheet(XmlPart& xml, const QString& active) {
-    std::vector<Cell> first;
+Table read_spreadsheet(XmlPart& xml, const QString& active) {
+    Table first;
     bool found = false;
     while (xml.next_child()) {
-        if (!xml.is(u"table")) {
+        if (!xml.is("table")) {
             xml.skip();
-        } else if (active.isEmpty() || xml.attribute(u"name") == active) {
+        } else if (active.isEmpty() || xml.attribute("name") == active) {
             return read_table(xml);
         } else if (std::exchange(found, true)) {
             xml.skip();
@@ -198,14 +198,14 @@ bool is_ods(const Package& package) {
     return package.has(content) || package.has(manifest);
 }
 
-std::vector<Cell> read_ods(Package& package) {
+Table read_ods(Package& package) {
     if (asks_for_password(package)) throw encrypted();
     const QString active = active_sheet(package);
     XmlPart xml(package, content);
     while (xml.next()) {
-        if (!xml.starts() || !xml.is(u"body")) continue;
-        if (!xml.next_child() || !xml.is(u"spreadsheet")) throw no_workbook();
-        std::vector<Cell> cells = read_spreadsheet(xml, active);
+        if (!xml.starts() || !xml.is("body")) continue;
+        if (!xml.next_child() || !xml.is("spreadsheet")) throw no_workbook();
+        Table cells = read_spreadsheet(xml, active);
         while (xml.next()) continue;  // a file that was cut shows it at its end
         return cells;
     }

@@ -21,30 +21,29 @@ bool stands_before(const Cell& left, const Cell& right) {
 
 }  // namespace
 
-void Sheet::add(std::int64_t row, std::int64_t column, const QString& text) {
-    characters_ += text.size();
-    add_counted(row, column, text);
+Text Sheet::keep(QStringView text) {
+    const QStringView kept = text.left(longest_text);
+    const Text place{static_cast<std::uint32_t>(table_.letters.size()), static_cast<std::uint16_t>(kept.size())};
+    table_.letters.append(kept);
+    if (++texts_ > most_texts || table_.letters.size() > most_characters) throw too_large();
+    return place;
 }
 
-void Sheet::count(const QString& text) {
-    characters_ += text.size();
-    if (++texts_ > most_texts || characters_ > most_characters) throw too_large();
-}
-
-void Sheet::add_counted(std::int64_t row, std::int64_t column, const QString& text) {
-    if (text.isEmpty()) return;
+void Sheet::add(std::int64_t row, std::int64_t column, Text text) {
+    if (text.length == 0) return;
     if (row < 1 || column < 1) throw damaged();
-    if (row > most_rows || column > most_columns || characters_ > most_characters) throw too_large();
-    if (cells_.size() >= static_cast<std::size_t>(most_texts)) throw too_large();
-    cells_.push_back({static_cast<int>(row), static_cast<int>(column), text});
+    if (row > most_rows || column > most_columns || table_.cells.size() >= most_texts) throw too_large();
+    table_.cells.push_back(
+        {static_cast<std::uint32_t>(row), static_cast<std::uint16_t>(column), text.length, text.begin});
 }
 
-std::vector<Cell> Sheet::take() {
-    if (!std::ranges::is_sorted(cells_, stands_before)) std::ranges::stable_sort(cells_, stands_before);
+Table Sheet::take() {
+    QList<Cell>& cells = table_.cells;
+    if (!std::ranges::is_sorted(cells, stands_before)) std::ranges::stable_sort(cells, stands_before);
     const auto same_place = [](const Cell& left, const Cell& right) { return !stands_before(right, left); };
-    const auto first_kept = std::unique(cells_.rbegin(), cells_.rend(), same_place).base();
-    cells_.erase(cells_.begin(), first_kept);
-    return std::exchange(cells_, {});
+    const auto first_kept = std::unique(cells.rbegin(), cells.rend(), same_place).base();
+    cells.erase(cells.begin(), first_kept);
+    return std::exchange(table_, {});
 }
 
 // Through the decimal form that a spreadsheet shows, so that 0.1 + 0.2 is "0.3".

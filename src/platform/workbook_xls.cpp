@@ -1,14 +1,10 @@
 // .xls of Excel 97 (BIFF8) and Excel 5 and 95 (BIFF5): cell records in a stream of a compound file.
 #include "platform/cell_records.h"
+#include "platform/compound_file.h"
 #include "platform/workbook_readers.h"
 
-#include <gsf/gsf-infile-msole.h>
-#include <gsf/gsf-input-memory.h>
-#include <gsf/gsf-utils.h>
-
 #include <bit>
-#include <memory>
-#include <optional>
+#include <vector>
 
 namespace workbook {
 
@@ -75,7 +71,7 @@ struct Globals {
         bool is_table;
     };
     std::vector<Place> sheets;
-    std::vector<QString> texts;
+    std::vector<Text> texts;
 };
 
 bool version_is_97(const RecordView& begin) {
@@ -84,18 +80,15 @@ bool version_is_97(const RecordView& begin) {
     return version == excel_97;
 }
 
-std::vector<QString> read_shared_texts(Records& records, Sheet& sheet) {
+std::vector<Text> read_shared_texts(Records& records, Sheet& sheet) {
     const std::uint32_t count = records.view().long_word(4);
     ContinuedReader reader(records, 8);
-    std::vector<QString> texts;
-    for (std::uint32_t i = 0; i < count; ++i) {
-        texts.push_back(reader.text());
-        sheet.count(texts.back());
-    }
+    std::vector<Text> texts;
+    for (std::uint32_t i = 0; i < count; ++i) texts.push_back(sheet.keep(reader.text()));
     return texts;
 }
 
-Globals read_globals(QByteArrayView stream, Sheet& sheet) {
+Globals read_globals(ByteStream& stream, Sheet& sheet) {
     Records records(stream);
     if (!records.next() || records.id() != begin_of_stream) throw damaged();
     Globals globals;
@@ -115,7 +108,7 @@ Globals read_globals(QByteArrayView stream, Sheet& sheet) {
 
 class TableReader {
 public:
-    TableReader(QByteArrayView stream, const Globals& globals, std::uint32_t begin, Sheet& sheet)
+    TableReader(ByteStream& stream, const Globals& globals, std::uint32_t begin, Sheet& sheet)
         : records_(stream, begin), globals_(globals), sheet_(sheet) {}
 
     // Charts inside the sheet are streams of their own within it.
@@ -187,7 +180,7 @@ private:
         take_place();
         const std::size_t index = records_.view().long_word(6);
         if (index >= globals_.texts.size()) throw damaged();
-        sheet_.add_counted(row_, column_, globals_.texts[index]);
+        sheet_.add(row_, column_, globals_.texts[index]);
     }
 
     // Eight bytes are a number, or a mark and what kind of result it is; a text stands in a record of its own behind.
@@ -213,43 +206,15 @@ private:
     bool awaits_text_ = false;
 };
 
-struct Unref {
-    void operator()(void* object) const { g_object_unref(object); }
-};
-template <typename Object>
-using Owned = std::unique_ptr<Object, Unref>;
-
-void say_nothing(const char*, GLogLevelFlags, const char*, void*) {}
-
-// A damaged file is told in the program's own words, not in the library's on the console.
-bool set_up_library() {
-    gsf_init();
-    for (const char* speaker : {"libgsf:msole", static_cast<const char*>(nullptr)})
-        g_log_set_handler(speaker, static_cast<GLogLevelFlags>(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_CRITICAL), say_nothing,
-                          nullptr);
-    return true;
-}
-
-Owned<GsfInfile> open_compound_file(const QByteArray& file) {
-    [[maybe_unused]] static const bool ready = set_up_library();
-    const auto* bytes = reinterpret_cast<const guint8*>(file.constData());
-    const Owned<GsfInput> input(gsf_input_memory_new(bytes, file.size(), FALSE));
-    Owned<GsfInfile> compound(gsf_infile_msole_new(input.get(), nullptr));
-    if (!compound) throw damaged();
-    return compound;
-}
-
-// The bytes of a stream; none where there is no such stream.
-std::optional<QByteArray> stream_of(GsfInfile& compound, const char* name, qsizetype size_of_file) {
-    const Owned<GsfInput> stream(gsf_infile_child_by_name(&compound, name));
-    if (!stream) return std::nullopt;
-    const gsf_off_t size = gsf_input_size(stream.get());
-    if (size <= 0 || size > size_of_file) throw damaged();
-    QByteArray bytes(size, Qt::Uninitialized);
-    if (gsf_input_read(stream.get(), static_cast<std::size_t>(size), reinterpret_cast<guint8*>(bytes.data())) ==
-        nullptr)
-        throw damaged();
-    return bytes;
+Table read_records(ByteStream& stream) {
+    Sheet sheet;
+    constexpr qsizetype smallest_cell = 14;  // bytes; many short numbers take less, and are few
+    sheet.expect(stream.size() / smallest_cell);
+    const Globals globals = read_globals(stream, sheet);
+    const std::size_t active = globals.active < globals.sheets.size() ? globals.active : 0;
+    if (!globals.sheets[active].is_table) throw no_table();
+    TableReader(stream, globals, globals.sheets[active].begin, sheet).read();
+    return sheet.take();
 }
 
 }  // namespace
@@ -263,23 +228,19 @@ bool is_cell_records(const QByteArray& file) {
     return file.size() > 4 && file[0] == '\x09' && (file[1] & '\xF1') == 0 && file[3] == '\0';
 }
 
-std::vector<Cell> read_cell_records(const QByteArray& stream) {
-    if (stream[1] != '\x08') throw no_workbook();
-    Sheet sheet;
-    constexpr qsizetype smallest_cell = 14;  // bytes; many short numbers take less, and are few
-    sheet.expect(stream.size() / smallest_cell);
-    const Globals globals = read_globals(stream, sheet);
-    const std::size_t active = globals.active < globals.sheets.size() ? globals.active : 0;
-    if (!globals.sheets[active].is_table) throw no_table();
-    TableReader(stream, globals, globals.sheets[active].begin, sheet).read();
-    return sheet.take();
+Table read_cell_records(const QString& native_file) {
+    ByteStream stream(native_file);
+    char version[2];
+    stream.read(0, version, sizeof version);
+    if (version[1] != '\x08') throw no_workbook();
+    return read_records(stream);
 }
 
-std::vector<Cell> read_compound_file(const QByteArray& file) {
-    const Owned<GsfInfile> compound = open_compound_file(file);
+Table read_compound_file(const QString& native_file) {
+    const CompoundFile file(native_file);
     for (const char* book : {"Workbook", "Book"})
-        if (const auto stream = stream_of(*compound, book, file.size())) return read_cell_records(*stream);
-    if (stream_of(*compound, "EncryptedPackage", file.size())) throw encrypted();
+        if (auto stream = file.stream(book)) return read_records(*stream);
+    if (file.stream("EncryptedPackage")) throw encrypted();
     throw no_workbook();
 }
 

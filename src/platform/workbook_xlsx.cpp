@@ -1,6 +1,6 @@
 // .xlsx: the package's relations lead to the workbook, and these of the workbook to its sheets and shared texts.
-#include "platform/workbook_package.h"
 #include "platform/workbook_readers.h"
+#include "platform/workbook_xml.h"
 
 #include <QDir>
 #include <QHash>
@@ -28,10 +28,10 @@ Relations relations_of(Package& package, const QString& part) {
     if (!package.has(file)) return relations;
     XmlPart xml(package, file);
     while (xml.next()) {
-        if (!xml.starts() || !xml.is(u"Relationship")) continue;
-        const QString target = xml.attribute(u"Target");
+        if (!xml.starts() || !xml.is("Relationship")) continue;
+        const QString target = xml.attribute("Target");
         const QString path = target.startsWith(u'/') ? target.mid(1) : folder + target;
-        relations.insert(xml.attribute(u"Id"), {xml.attribute(u"Type"), QDir::cleanPath(path)});
+        relations.insert(xml.attribute("Id"), {xml.attribute("Type"), QDir::cleanPath(path)});
     }
     return relations;
 }
@@ -49,8 +49,8 @@ QString active_sheet(Package& package, const QString& book, const Relations& rel
     QStringList sheets;
     while (xml.next()) {
         if (!xml.starts()) continue;
-        if (xml.is(u"workbookView")) active = xml.attribute(u"activeTab").toInt();
-        if (xml.is(u"sheet")) sheets << xml.attribute(u"id");
+        if (xml.is("workbookView")) active = xml.attribute("activeTab").toInt();
+        if (xml.is("sheet")) sheets << xml.attribute("id");
     }
     if (sheets.isEmpty()) throw no_workbook();  // a letter or a presentation comes in the same package
     const auto sheet = relations.constFind(sheets.value(active, sheets.first()));
@@ -75,10 +75,10 @@ QString unescaped(QString text) {
 QString string_item(XmlPart& xml) {
     QString text;
     while (xml.next_child()) {
-        if (xml.is(u"t")) {
-            text += xml.text();
-        } else if (xml.is(u"r")) {
-            while (xml.next_child()) xml.is(u"t") ? void(text += xml.text()) : xml.skip();
+        if (xml.is("t")) {
+            text += text_of_utf8(xml.text());
+        } else if (xml.is("r")) {
+            while (xml.next_child()) xml.is("t") ? void(text += text_of_utf8(xml.text())) : xml.skip();
         } else {
             xml.skip();
         }
@@ -87,15 +87,12 @@ QString string_item(XmlPart& xml) {
     return unescaped(text);
 }
 
-std::vector<QString> shared_strings(Package& package, const QString& part, Sheet& sheet) {
-    std::vector<QString> strings;
+std::vector<Text> shared_strings(Package& package, const QString& part, Sheet& sheet) {
+    std::vector<Text> strings;
     if (part.isEmpty() || !package.has(part)) return strings;
     XmlPart xml(package, part);
-    while (xml.next()) {
-        if (!xml.starts() || !xml.is(u"si")) continue;
-        strings.push_back(string_item(xml));
-        sheet.count(strings.back());
-    }
+    while (xml.next())
+        if (xml.starts() && xml.is("si")) strings.push_back(sheet.keep(string_item(xml)));
     return strings;
 }
 
@@ -104,30 +101,41 @@ struct Place {
 };
 
 // "AB12" moves to row 12, column 28. Without a reference the cell stands behind the one before it.
-void move_to(Place& place, QStringView reference) {
-    if (reference.isEmpty()) return void(++place.column);
+void move_to(Place& place, std::string_view reference) {
+    if (reference.empty()) return void(++place.column);
     Place found;
-    for (const QChar letter : reference) {
-        if (letter >= u'A' && letter <= u'Z')
-            found.column = found.column * 26 + (letter.unicode() - u'A' + 1);
-        else if (letter >= u'0' && letter <= u'9')
-            found.row = found.row * 10 + (letter.unicode() - u'0');
+    for (const char letter : reference) {
+        if (letter >= 'A' && letter <= 'Z')
+            found.column = found.column * 26 + (letter - 'A' + 1);
+        else if (letter >= '0' && letter <= '9')
+            found.row = found.row * 10 + (letter - '0');
         if (found.row > most_rows || found.column > most_columns) throw damaged();
     }
     place = found;
 }
 
+// What the value of a cell is; dates and errors stand as they are shown.
+enum class Kind { number, shared, text, truth, shown };
+
+Kind kind_of(std::string_view type) {
+    if (type == "s") return Kind::shared;
+    if (type.empty() || type == "n") return Kind::number;
+    if (type == "str") return Kind::text;
+    return type == "b" ? Kind::truth : Kind::shown;
+}
+
 class SheetReader {
 public:
-    SheetReader(Sheet& sheet, std::vector<QString> strings) : sheet_(sheet), strings_(std::move(strings)) {}
+    SheetReader(Sheet& sheet, std::vector<Text> strings) : sheet_(sheet), strings_(std::move(strings)) {}
 
     void read(XmlPart& xml) {
         while (xml.next()) {
             if (!xml.starts()) continue;
-            if (xml.is(u"row")) {
-                const QString number = xml.attribute(u"r");
-                place_ = {number.isEmpty() ? place_.row + 1 : number.toLongLong(), 0};
-            } else if (xml.is(u"c")) {
+            if (xml.is("row")) {
+                const std::string_view number = xml.written("r");
+                const auto row = static_cast<std::int64_t>(whole_number(number).value_or(0));
+                place_ = {number.empty() ? place_.row + 1 : row, 0};
+            } else if (xml.is("c")) {
                 read_cell(xml);
             }
         }
@@ -135,40 +143,34 @@ public:
 
 private:
     void read_cell(XmlPart& xml) {
-        static const QString shared = u"s"_s;  // of most cells
-        move_to(place_, xml.attribute_view(u"r"));
-        const QStringView kind = xml.attribute_view(u"t");
-        const QString type = kind == shared ? shared : kind.toString();
+        move_to(place_, xml.written("r"));
+        const Kind kind = kind_of(xml.written("t"));
         while (xml.next_child()) {
-            if (xml.is(u"v"))
-                add_value(type, xml.text());
-            else if (xml.is(u"is"))
+            if (xml.is("v"))
+                add_value(kind, xml.text());
+            else if (xml.is("is"))
                 sheet_.add(place_.row, place_.column, string_item(xml));
             else
                 xml.skip();
         }
     }
 
-    void add_value(const QString& type, const QString& value) {
-        if (type == u"s") {
-            bool is_number = false;
-            const std::size_t index = value.toULongLong(&is_number);
-            if (!is_number || index >= strings_.size()) throw damaged();
-            return sheet_.add_counted(place_.row, place_.column, strings_[index]);
-        }
-        sheet_.add(place_.row, place_.column, shown(type, value));
+    void add_value(Kind kind, std::string_view value) {
+        if (kind != Kind::shared) return sheet_.add(place_.row, place_.column, shown(kind, value));
+        const auto index = whole_number(value);
+        if (!index || *index >= strings_.size()) throw damaged();
+        sheet_.add(place_.row, place_.column, strings_[*index]);
     }
 
-    static QString shown(const QString& type, const QString& value) {
-        if (type == u"b") return text_of(value.trimmed() == u"1");
-        if (type == u"str") return unescaped(value);
-        bool is_number = false;
-        const double number = value.toDouble(&is_number);
-        return is_number && (type.isEmpty() || type == u"n") ? text_of(number) : value;
+    static QString shown(Kind kind, std::string_view value) {
+        if (kind == Kind::truth) return text_of(whole_number(value) == 1U);
+        if (kind == Kind::text) return unescaped(text_of_utf8(value));
+        const auto number = kind == Kind::number ? decimal_number(value) : std::nullopt;
+        return number ? text_of(*number) : text_of_utf8(value);
     }
 
     Sheet& sheet_;
-    std::vector<QString> strings_;
+    std::vector<Text> strings_;
     Place place_;
 };
 
@@ -178,7 +180,7 @@ bool is_xlsx(const Package& package) {
     return package.has(u"_rels/.rels"_s) && package.has(u"[Content_Types].xml"_s);
 }
 
-std::vector<Cell> read_xlsx(Package& package) {
+Table read_xlsx(Package& package) {
     const QString book = part_of_kind(relations_of(package, {}), u"/officeDocument");
     if (book.isEmpty()) throw damaged();
     if (!book.endsWith(u".xml", Qt::CaseInsensitive)) throw no_workbook();  // .xlsb

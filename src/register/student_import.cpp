@@ -110,6 +110,7 @@ ImportColumns StudentImport::columns() const {
 void StudentImport::run(const Workbook& book) {
     read_ = 0;
     written_.clear();
+    today_ = dates::key(clock_source::today());
     try {
         add_rows(book);
     } catch (const std::runtime_error& failure) {
@@ -166,7 +167,6 @@ bool StudentImport::may_add(const ImportedStudent& student) {
 
 void StudentImport::add_student(const ImportedStudent& student) {
     static const QString no_text = rich_text::from_plain({});
-    const QString today = dates::key(clock_source::today());
     store::Recordset& row = session_.studentTable;
     row.AddNew();
     fill_with_nothing(row);
@@ -178,14 +178,14 @@ void StudentImport::add_student(const ImportedStudent& student) {
         {"CINSIYET", student.sex},
         {"RESIM", no_text},
         {"ACK", student.note},
-        {"KAYTAR", today},
+        {"KAYTAR", today_},
         {"GELOKUL", student.school},
         {"DIN", student.grade},
         {"VGSM", student.guardian_telephone},
         {"VMAIL", no_text},
-        {"AYTAR", today},
-        {"DOGTAR", today},
-        {"VERTAR", today},
+        {"AYTAR", today_},
+        {"DOGTAR", today_},
+        {"VERTAR", today_},
         {"REFERANS", student.referrer},
         {"USER", session_.userCode.isEmpty() ? u" "_s : session_.userCode},
     };

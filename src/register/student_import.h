@@ -37,6 +37,7 @@ private:
     Kurvo& kurvo_;
     SessionContext& session_;
     StudentList& list_;
+    QString today_;                // of the import: asking for it is dear
     int read_ = 0;                 // rows, with the one that ended the import
     std::vector<double> written_;  // the numbers of the new students
 };

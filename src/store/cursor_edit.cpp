@@ -50,7 +50,9 @@ void Recordset::Cursor::add_new() {
 
 void Recordset::Cursor::cancel_update() {
     if (!edit_) misuse(u"Geri alınacak kayıt değişikliği yok");
+    EditBuffer edit = std::move(*edit_);
     edit_.reset();
+    if (edit.lock) edit.lock->cancel();
 }
 
 void Recordset::Cursor::update() {
@@ -81,8 +83,8 @@ void Recordset::Cursor::erase() {
     if (!session_->engine().erase(info_, row()))
         throw messages::outcome(Errc::row_gone, file(), info_.definition().name);
     session_->has_written(*writes_);
-    place_ = Place::on_deleted;
     lock.done();
+    place_ = Place::on_deleted;
 }
 
 }  // namespace store

@@ -4,7 +4,7 @@
 #include "store/messages.h"
 
 #include <algorithm>
-#include <stdexcept>
+#include <utility>
 
 namespace store {
 
@@ -84,7 +84,10 @@ public:
         const TableDef& table = left_table_.definition();
         if (!same_fields(table, right_table_.definition())) return tell(QStringLiteral("alanlar aynı değil"));
         if (!same_indexes(table, right_table_.definition())) return tell(QStringLiteral("dizinler aynı değil"));
-        QString found = compare_rows();
+        const std::int64_t left_count = left_.count(left_table_), right_count = right_.count(right_table_);
+        if (left_count != right_count)
+            return tell(QStringLiteral("kayıt sayısı aynı değil (%1, %2)").arg(left_count).arg(right_count));
+        QString found = compare_rows(left_count);
         for (int index = 0; found.isEmpty() && index < static_cast<int>(table.indexes.size()); ++index)
             found = compare_order(index);
         return found;
@@ -95,13 +98,10 @@ private:
         return messages::name(left_table_.definition().name) + QStringLiteral(": ") + words;
     }
 
-    QString compare_rows() {
+    QString compare_rows(std::int64_t count) {
         Walk left(left_, left_table_, ReadRequest::by_entry, left_table_.all_fields());
         Walk right(right_, right_table_, ReadRequest::by_entry, right_table_.all_fields());
-        for (;;) {
-            const bool more = left.next();
-            if (right.next() != more) return tell(QStringLiteral("kayıt sayısı aynı değil"));
-            if (!more) return {};
+        while (left.next() && right.next()) {
             left_rows_.push_back(left.row());
             right_rows_.push_back(right.row());
             for (int field = 0; field < static_cast<int>(left_table_.field_count()); ++field)
@@ -109,6 +109,8 @@ private:
                     return tell(QStringLiteral("%1 kaydında %2 aynı değil (%3, %4)")
                                     .arg(key_of(left), name_of(field), shown(a), shown(b)));
         }
+        if (std::cmp_equal(left_rows_.size(), count)) return {};
+        return tell(QStringLiteral("%1 kayıttan %2 okunuyor").arg(count).arg(left_rows_.size()));
     }
 
     QString compare_order(int index) {
@@ -152,27 +154,43 @@ private:
     std::vector<RowId> left_rows_, right_rows_;  // in the order of entry
 };
 
+void require_same_fields(const TableDef& from, Engine& to) {
+    if (!same_fields(from, to.table(from.name).definition()))
+        throw messages::error(QStringLiteral("Tablonun alanları iki tarafta aynı değil: ") + messages::name(from.name));
+}
+
+// Within a write of `to`; how many rows.
+std::int64_t append_rows(Engine& from, Engine& to, const std::string& table) {
+    const TableInfo& source = from.table(table);
+    const TableInfo& target = to.table(table);
+    std::int64_t rows = 0;
+    for (Walk walk(from, source, ReadRequest::by_entry, source.all_fields()); walk.next_batch();) {
+        to.insert_rows(target, walk.rows());
+        rows += static_cast<std::int64_t>(walk.rows().size());
+    }
+    return rows;
+}
+
 }  // namespace
 
 void require_room(Engine& from, Engine& to) {
-    for (const TableDef& table : from.tables())
-        if (!same_fields(table, to.table(table.name).definition()))
-            throw messages::error(QStringLiteral("Tablonun alanları iki tarafta aynı değil: ") +
-                                  messages::name(table.name));
+    for (const TableDef& table : from.tables()) require_same_fields(table, to);
+}
+
+void add_rows(Engine& from, Engine& to, const std::string& table, bool empty_first) {
+    require_same_fields(from.table(table).definition(), to);
+    EngineWrite write(to);
+    if (empty_first) to.erase_all(to.table(table));
+    append_rows(from, to, table);
+    write.commit();
 }
 
 void copy_rows(Engine& from, Engine& to, const TableDone& done) {
     require_room(from, to);
     EngineWrite write(to);
     for (const TableDef& definition : from.tables()) {
-        const TableInfo& source = from.table(definition.name);
-        const TableInfo& target = to.table(definition.name);
-        to.erase_all(target);
-        std::int64_t rows = 0;
-        for (Walk walk(from, source, ReadRequest::by_entry, source.all_fields()); walk.next_batch();) {
-            to.insert_rows(target, walk.rows());
-            rows += static_cast<std::int64_t>(walk.rows().size());
-        }
+        to.erase_all(to.table(definition.name));
+        const std::int64_t rows = append_rows(from, to, definition.name);
         if (done) done(definition.name, rows);
     }
     write.commit();

@@ -20,6 +20,9 @@ using TableDone = std::function<void(const std::string& table, std::int64_t rows
 // to it that nobody writes there meanwhile.
 void copy_rows(Engine& from, Engine& to, const TableDone& done = {});
 
+// Adds the rows of one table to that of the same name in `to`, whose former rows go with `empty_first`, as one write.
+void add_rows(Engine& from, Engine& to, const std::string& table, bool empty_first);
+
 // Throws where a table of `from` is missing in `to` or has other fields there, so that rows could not be copied.
 void require_room(Engine& from, Engine& to);
 

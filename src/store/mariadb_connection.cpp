@@ -17,16 +17,19 @@ constexpr unsigned connect_seconds = 5;
 // Longer than a server waits for a lock on our behalf.
 constexpr unsigned answer_seconds = 30;
 constexpr std::size_t most_kept = 8;
-// The greeting, the login and the settings.
-constexpr std::int64_t trips_to_connect = 3;
+// The greeting and the login.
+constexpr std::int64_t trips_to_connect = 2;
 
 // An apostrophe is doubled and nothing else has a meaning in a text. A lock is waited for as long as in a file; a
 // workstation that vanished within a write leaves it after five minutes. On a cluster a reader sees what was committed
 // at another node before.
 constexpr auto settings =
-    "SET SESSION sql_mode='STRICT_ALL_TABLES,NO_BACKSLASH_ESCAPES,NO_ENGINE_SUBSTITUTION',"
+    "SET NAMES utf8mb4;"
+    "SET SESSION sql_mode='STRICT_ALL_TABLES,NO_BACKSLASH_ESCAPES,NO_ENGINE_SUBSTITUTION',autocommit=1,"
     "tx_isolation='READ-COMMITTED',innodb_lock_wait_timeout=5,lock_wait_timeout=5,idle_transaction_timeout=300,"
-    "wsrep_sync_wait=1";
+    "max_statement_time=0,sql_safe_updates=0,sql_select_limit=18446744073709551615;"
+    "SELECT @@max_allowed_packet";
+constexpr auto cluster_setting = "SET SESSION wsrep_sync_wait=1";
 
 std::int64_t trips = 0;
 
@@ -54,6 +57,8 @@ bool MariadbFailure::is_lost() const {
         case CR_SERVER_LOST:
         case CR_CONNECTION_ERROR:
         case CR_CONN_HOST_ERROR:
+        case CR_UNKNOWN_HOST:
+        case ER_CON_COUNT_ERROR:
         case ER_CONNECTION_KILLED:
         case ER_SERVER_SHUTDOWN:
         case ER_UNKNOWN_COM_ERROR:  // what a node without its cluster answers
@@ -64,7 +69,11 @@ bool MariadbFailure::is_lost() const {
 }
 
 bool MariadbFailure::is_conflict() const {
-    return code == ER_LOCK_DEADLOCK;
+    return code == ER_LOCK_DEADLOCK || code == ER_BAD_NULL_ERROR;
+}
+
+bool MariadbFailure::is_refusal() const {
+    return code == ER_ACCESS_DENIED_ERROR || code == ER_DBACCESS_DENIED_ERROR || code == ER_BAD_DB_ERROR;
 }
 
 std::int64_t MariadbConnection::Row::whole(int column) const {
@@ -86,7 +95,7 @@ MariadbConnection::MariadbConnection(const ServerPlace& place) {
             return;
         } catch (const MariadbFailure& failure) {
             answering = (answering + 1) % hosts;
-            if (!failure.is_lost() || tried == hosts) throw;
+            if (failure.is_refusal() || tried == hosts) throw;
         }
     }
 }
@@ -101,6 +110,8 @@ void MariadbConnection::connect(const ServerPlace& place, const QString& host) {
     mysql_options(connection, MYSQL_OPT_READ_TIMEOUT, &answer_seconds);
     mysql_options(connection, MYSQL_OPT_WRITE_TIMEOUT, &answer_seconds);
     mysql_options(connection, MYSQL_SET_CHARSET_NAME, "utf8mb4");
+    const unsigned no_files = 0;
+    mysql_options(connection, MYSQL_OPT_LOCAL_INFILE, &no_files);
     if (place.tls) {
         const my_bool yes = 1;
         mysql_options(connection, MYSQL_OPT_SSL_ENFORCE, &yes);
@@ -115,15 +126,29 @@ void MariadbConnection::connect(const ServerPlace& place, const QString& host) {
                            place.database.toUtf8(), port, nullptr,
                            CLIENT_FOUND_ROWS | CLIENT_MULTI_STATEMENTS) == nullptr)
         fail();
-    if (mysql_query(connection, settings) != 0) fail();
+    most_bytes_ = SIZE_MAX;
+    std::int64_t most = 0;
+    run(settings, [&](std::size_t, const Row& row) { most = row.whole(0); });
+    try {
+        run(cluster_setting);
+    } catch (const MariadbFailure& failure) {
+        if (failure.code != ER_UNKNOWN_SYSTEM_VARIABLE) throw;  // of a server that cannot be part of a cluster
+    }
+    most_bytes_ = static_cast<std::size_t>(most) - 1;
 }
 
+// On an encrypted connection the end of the other side is a failure of the encryption.
 void MariadbConnection::fail() const {
-    throw MariadbFailure{mysql_errno(connection_.get()), mysql_error(connection_.get())};
+    const unsigned code = mysql_errno(connection_.get());
+    const bool is_connected = most_bytes_ != SIZE_MAX;
+    throw MariadbFailure{is_connected && code == CR_SSL_CONNECTION_ERROR ? CR_SERVER_LOST : code,
+                         mysql_error(connection_.get())};
 }
 
 std::vector<std::uint64_t> MariadbConnection::run(std::string_view statements, const TakeRow& take) {
     MYSQL* const connection = connection_.get();
+    if (statements.size() > most_bytes_)
+        throw MariadbFailure{ER_NET_PACKET_TOO_LARGE, "max_allowed_packet " + std::to_string(most_bytes_ + 1)};
     ++trips;
     if (mysql_real_query(connection, statements.data(), statements.size()) != 0) fail();
     std::vector<std::uint64_t> found;

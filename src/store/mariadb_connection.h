@@ -21,8 +21,11 @@ struct MariadbFailure {
 
     // Nobody is there any more, or a node of a cluster that has lost the others: a new connection may help.
     bool is_lost() const;
-    // Another node of the cluster wrote the same row first; the server has undone the transaction.
+    // Another node of the cluster wrote the same row first, and the server has undone the transaction; or a write has
+    // found that it had, or that the row is no longer of the version it knew.
     bool is_conflict() const;
+    // Another host would say the same.
+    bool is_refusal() const;
 };
 
 class MariadbConnection {
@@ -58,6 +61,7 @@ private:
     [[noreturn]] void fail() const;
 
     std::unique_ptr<st_mysql, Close> connection_;
+    std::size_t most_bytes_ = SIZE_MAX;  // that the server takes at once
 };
 
 // A kept connection, or a new one. A kept one may be dead, which its first use shows.

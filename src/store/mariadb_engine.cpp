@@ -4,9 +4,12 @@
 #include "store/mariadb_sql.h"
 #include "store/messages.h"
 
+#include <errmsg.h>
 #include <mysqld_error.h>
 
 #include <charconv>
+#include <chrono>
+#include <thread>
 
 namespace store {
 
@@ -14,6 +17,9 @@ namespace {
 
 // One more than is needed for a lost connection: a node of a cluster may be gone as well.
 constexpr int most_attempts = 2;
+// A server that is started anew is back within this time.
+constexpr auto longest_outage = std::chrono::seconds(6);
+constexpr auto pause_between_attempts = std::chrono::milliseconds(200);
 constexpr int columns_ahead = 2;  // the row's id and version
 
 void append(FieldType type, const MariadbConnection::Row& row, int column, Batch& result) {
@@ -41,13 +47,13 @@ MariadbEngine::MariadbEngine(QString name, const ServerPlace& place) : MariadbEn
 
 MariadbEngine::~MariadbEngine() {
     rollback();
-    keep_connection(place_, std::move(connection_));
+    if (connection_) keep_connection(place_, std::move(connection_));
 }
 
 void MariadbEngine::fail(const MariadbFailure& failure, std::string_view table) {
     const QString place = name_ + QStringLiteral(" (") + QString::fromStdString(failure.words) + u')';
-    const bool was_writing = state_ != State::none;
-    if (failure.is_lost()) forget_transaction();
+    const bool was_writing = state_ == State::promised || state_ == State::open;
+    end_where_undone(failure);
     switch (failure.code) {
         case ER_DUP_ENTRY:
             throw messages::outcome(Errc::duplicate_key, name_, table);
@@ -68,6 +74,8 @@ void MariadbEngine::fail(const MariadbFailure& failure, std::string_view table) 
             throw messages::error(u"Sunucuda bu işlem için izin yok", place, table);
         case ER_ACCESS_DENIED_ERROR:
             throw messages::error(u"Sunucu kullanıcıyı ya da parolayı kabul etmiyor", place);
+        case CR_SSL_CONNECTION_ERROR:
+            throw messages::error(u"Sunucuyla güvenli bağlantı (TLS) kurulamadı", place);
         case ER_BAD_DB_ERROR:
             throw messages::error(u"Sunucuda veritabanı yok", place);
         case ER_DATA_TOO_LONG:
@@ -81,8 +89,35 @@ void MariadbEngine::fail(const MariadbFailure& failure, std::string_view table) 
     throw messages::error(u"Veritabanı sunucusuna ulaşılamıyor", place, table);
 }
 
+// What is gone at the server must not seem open here: whatever is written next would stand alone. Nobody else may get
+// a connection that was lost in the middle.
+void MariadbEngine::end_where_undone(const MariadbFailure& failure) noexcept {
+    if (failure.is_lost() || failure.code == ER_NET_PACKET_TOO_LARGE) {
+        forget_transaction();
+        connection_.reset();
+    } else if (failure.is_conflict() || failure.code == ER_LOCK_WAIT_TIMEOUT) {
+        rollback();
+    } else if (failure.code == ER_NO_SUCH_TABLE || failure.code == ER_BAD_FIELD_ERROR ||
+               failure.code == ER_KEY_DOES_NOT_EXISTS) {
+        forget_definitions();
+    }
+}
+
+MariadbConnection& MariadbEngine::connection() {
+    if (!connection_) reconnect();
+    return *connection_;
+}
+
 void MariadbEngine::reconnect() {
-    connection_ = std::make_unique<MariadbConnection>(place_);
+    const auto last_attempt = std::chrono::steady_clock::now() + longest_outage;
+    for (;; std::this_thread::sleep_for(pause_between_attempts)) {
+        try {
+            connection_ = std::make_unique<MariadbConnection>(place_);
+            return;
+        } catch (const MariadbFailure& failure) {
+            if (!failure.is_lost() || std::chrono::steady_clock::now() >= last_attempt) throw;
+        }
+    }
 }
 
 std::string MariadbEngine::prefixed(std::string_view table) const {
@@ -98,24 +133,24 @@ std::string MariadbEngine::beginning() const {
 }
 
 void MariadbEngine::ask(const std::string& statements, const TakeRow& take, const std::function<void()>& restart) {
-    const std::size_t ahead = state_ == State::promised ? 2 : 0;
+    const std::size_t ahead = state_ == State::promised ? statements_to_begin : 0;
     const std::string all = ahead > 0 ? beginning() + statements : statements;
     for (int attempts = 0;;) {
         try {
             if (restart) restart();
-            connection_->run(all, [&](std::size_t statement, const MariadbConnection::Row& row) {
+            connection().run(all, [&](std::size_t statement, const MariadbConnection::Row& row) {
                 if (statement >= ahead) take(statement - ahead, row);
             });
             if (ahead > 0) state_ = State::open;
             return;
         } catch (const MariadbFailure& failure) {
-            const bool may_go_again = failure.is_lost() || failure.is_conflict();
-            if (may_go_again && state_ != State::open && attempts++ < most_attempts) {
-                if (failure.is_lost()) reconnect();
+            const bool nothing_is_open = state_ == State::none || state_ == State::promised;
+            if (nothing_is_open && (failure.is_lost() || failure.is_conflict()) && attempts++ < most_attempts) {
+                if (failure.is_lost()) connection_.reset();
             } else if (failure.is_conflict() && state_ == State::open && journal_.can_repeat()) {
-                repeat({});
+                repeat();
             } else {
-                if (!failure.is_lost() && ahead > 0) state_ = State::open;
+                if (ahead > 0) state_ = State::open;
                 throw;
             }
         }
@@ -141,7 +176,14 @@ void MariadbEngine::read(const ReadRequest& request, Batch& result) {
             result.clear(request.columns);
             rows_of_first = rows_of_second = 0;
         };
-        ask(mariadb_sql::read(prefixed(table.name), request), take, restart);
+        const std::vector<std::string> statements = mariadb_sql::read(prefixed(table.name), request);
+        if (statements.size() == 1 || state_ != State::open) {
+            ask(statements.size() == 1 ? statements[0] : statements[0] + ';' + statements[1], take, restart);
+        } else {
+            ask(statements[0], take, restart);
+            const auto take_second = [&](std::size_t, const MariadbConnection::Row& row) { take(1, row); };
+            ask(statements[1], take_second);
+        }
         result.complete = rows_of_first < static_cast<std::size_t>(request.limit) && rows_of_second == 0;
     });
 }

@@ -63,6 +63,7 @@ private:
         none,
         promised,  // begins with the next statement
         open,
+        snapshot,  // reads of one moment
     };
     using Write = MariadbJournal::Write;
     using TakeRow = MariadbConnection::TakeRow;
@@ -75,6 +76,7 @@ private:
     bool has_table(std::string_view table);
     void rename_lock(std::string_view from, std::string_view to);
     void read_definitions();
+    QStringList false_keys(const TableDef& table);
     bool knows_definitions() const;
 
     // Runs statements that change nothing, behind the beginning of a promised transaction. `restart` forgets what was
@@ -83,12 +85,17 @@ private:
     bool perform(std::string_view table, Write write);
     bool run_write(const Write& write);
     void send_commit(std::string_view table);
-    void settle_lost_commit(std::string_view table);
+    // Whether it had arrived; where it had not, the transaction is as if it had not been sent, or fails as not written.
+    bool has_arrived(std::string_view table);
     bool was_committed();
     // Writes again what another node's write or a lost connection has undone; fails as locked where a row has changed.
-    void repeat(std::string_view table);
+    void repeat();
+    MariadbConnection& connection();
     void reconnect();
     void forget_transaction();
+    void forget_definitions();
+    void forget_old_writers();
+    void end_where_undone(const MariadbFailure& failure) noexcept;
     // Whether the row was erased meanwhile; where another one has written it, fails as locked.
     bool is_gone(std::string_view table, RowId row);
 
@@ -102,10 +109,12 @@ private:
     }
     [[noreturn]] void fail(const MariadbFailure& failure, std::string_view table);
 
+    static constexpr std::size_t statements_to_begin = 2;
+
     QString name_;
     ServerPlace place_;
     std::string identity_;
-    std::unique_ptr<MariadbConnection> connection_;
+    std::unique_ptr<MariadbConnection> connection_;  // none after a loss
     State state_ = State::none;
     bool holds_next_ = false;  // the next write goes with the commit
     MariadbJournal journal_;   // of the open transaction

@@ -39,7 +39,13 @@ public:
     bool can_repeat() const { return is_whole_ && !repeated_; }
     void set_repeated() { repeated_ = true; }
 
-    void know(const std::string& table, RowId row, std::int64_t version) { versions_[{table, row}] = version; }
+    // What the row was when it was first read is what the write goes by.
+    void know(const std::string& table, RowId row, std::int64_t version) {
+        versions_.try_emplace({table, row}, version);
+    }
+    void raise(const std::string& table, RowId row) {
+        if (const auto known = versions_.find({table, row}); known != versions_.end()) ++known->second;
+    }
     std::optional<std::int64_t> version(const std::string& table, RowId row) const {
         const auto known = versions_.find({table, row});
         return known == versions_.end() ? std::nullopt : std::optional(known->second);

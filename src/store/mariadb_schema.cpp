@@ -100,6 +100,10 @@ std::string table_sql(const std::string& quoted, const TableDef& table) {
 
 }  // namespace
 
+void MariadbEngine::forget_definitions() {
+    known_definitions().erase(identity_);
+}
+
 bool MariadbEngine::knows_definitions() const {
     return known_definitions().contains(identity_);
 }
@@ -139,16 +143,19 @@ TableInfo& MariadbEngine::table(std::string_view name) {
 
 // What a cut has left of an earlier attempt is not in the list and goes.
 void MariadbEngine::create_table(const TableDef& table) {
+    const Definitions& known = known_definitions()[identity_];
+    if (std::ranges::find(known, table.name, &Definitions::value_type::first) != known.end())
+        throw messages::error(u"Tablo zaten var", name_, table.name);
     TableDef ordered = table;
     std::ranges::stable_partition(ordered.indexes, [](const IndexDef& index) { return index.primary; });
     for (IndexDef& index : ordered.indexes) index.primary = &index == &ordered.indexes.front();
     const std::string list = quoted("_tables");
     guarded(table.name, [&] {
-        connection_->run("DROP TABLE IF EXISTS " + quoted(table.name) + ';' + table_sql(quoted(table.name), ordered) +
+        connection().run("DROP TABLE IF EXISTS " + quoted(table.name) + ';' + table_sql(quoted(table.name), ordered) +
                          ";INSERT INTO " + list + " (name,definition) VALUES (" + mariadb_sql::literal(table.name) +
                          ',' + mariadb_sql::literal(definition_text(ordered)) + ')');
     });
-    known_definitions().erase(identity_);
+    forget_definitions();
 }
 
 bool MariadbEngine::has_table(std::string_view table) {
@@ -168,7 +175,7 @@ bool MariadbEngine::exists(const QString& name, const ServerPlace& place) {
 
 // A renamed table is found by nobody, at any node, and the renaming waits for those who are using it.
 void MariadbEngine::rename_lock(std::string_view from, std::string_view to) {
-    guarded(from, [&] { connection_->run("RENAME TABLE " + quoted(from) + " TO " + quoted(to)); });
+    guarded(from, [&] { connection().run("RENAME TABLE " + quoted(from) + " TO " + quoted(to)); });
 }
 void MariadbEngine::retire() {
     rename_lock(lock_table, retired_table);
@@ -180,41 +187,45 @@ bool MariadbEngine::is_retired() {
     return has_table(retired_table);
 }
 
-// The lock comes last: tables without it are what a cut has left.
+// The lock comes last and with its row: tables without it are what a cut has left.
 void MariadbEngine::create(const QString& name, const ServerPlace& place, const std::vector<TableDef>& tables) {
     if (exists(name, place))
         throw messages::error(QStringLiteral("Sunucuda bu önekle tablolar zaten var (%1): %2").arg(place.prefix, name));
     MariadbEngine engine(name, place, New{});
+    engine.forget_definitions();
     const std::string list = engine.quoted("_tables"), writers = engine.quoted("_writers"),
-                      lock = engine.quoted(lock_table);
+                      draft = engine.quoted("_newlock");
     engine.guarded({}, [&] {
-        engine.connection_->run("DROP TABLE IF EXISTS " + list + ',' + writers + ";CREATE TABLE " + list +
+        engine.connection().run("DROP TABLE IF EXISTS " + list + ',' + writers + ',' + draft + ";CREATE TABLE " + list +
                                 " (ordinal INT NOT NULL AUTO_INCREMENT PRIMARY KEY,name VARCHAR(64) NOT NULL,"
                                 "definition LONGTEXT NOT NULL) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 "
                                 "COLLATE=utf8mb4_bin;CREATE TABLE " +
                                 writers +
-                                " (writer BIGINT PRIMARY KEY,commits BIGINT NOT NULL,token BIGINT NOT NULL) "
+                                " (writer BIGINT PRIMARY KEY,commits BIGINT NOT NULL,token BIGINT NOT NULL,"
+                                "seen TIMESTAMP NOT NULL DEFAULT CURRENT_TIMESTAMP ON UPDATE CURRENT_TIMESTAMP) "
                                 "ENGINE=InnoDB");
     });
     for (const TableDef& table : tables) engine.create_table(table);
     engine.guarded({}, [&] {
-        engine.connection_->run("INSERT INTO " + writers + " VALUES (0,0," +
+        engine.connection().run("INSERT INTO " + writers + " (writer,commits,token) VALUES (0,0," +
                                 std::to_string(QRandomGenerator::global()->generate64() >> 1) + ");CREATE TABLE " +
-                                lock + " (id TINYINT PRIMARY KEY) ENGINE=InnoDB;INSERT INTO " + lock + " VALUES (1)");
+                                draft + " (id TINYINT PRIMARY KEY) ENGINE=InnoDB;INSERT INTO " + draft + " VALUES (1)");
     });
+    engine.rename_lock("_newlock", lock_table);
 }
 
 void MariadbEngine::drop(const QString& name, const ServerPlace& place) {
     if (!exists(name, place)) return;
     MariadbEngine engine(name, place, New{});
     std::string all;
-    for (const TableDef& table : engine.tables()) all += ',' + engine.quoted(table.name);
+    for (const TableDef& table : engine.has_table("_tables") ? engine.tables() : std::vector<TableDef>())
+        all += ',' + engine.quoted(table.name);
     engine.guarded({}, [&] {
-        engine.connection_->run("DROP TABLE IF EXISTS " + engine.quoted(lock_table) + ',' +
+        engine.connection().run("DROP TABLE IF EXISTS " + engine.quoted(lock_table) + ',' +
                                 engine.quoted(retired_table) + all + ',' + engine.quoted("_tables") + ',' +
                                 engine.quoted("_writers"));
     });
-    known_definitions().erase(engine.identity_);
+    engine.forget_definitions();
 }
 
 }  // namespace store

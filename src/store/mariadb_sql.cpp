@@ -57,30 +57,29 @@ public:
         const std::string index =
             order_.empty() ? "PRIMARY" : quoted_name(definition.indexes[static_cast<std::size_t>(request.index)].name);
         head_ += " FORCE INDEX (" + index + ")";
-        names_row_ = order_.empty() || !request.table.index_at(request.index).unique;
+        names_row_ = order_.empty() || !request.table.index_at(request.index).unique ||
+                     std::ranges::any_of(request.keys, &Value::is_null);
         for (const Value& key : request.keys) keys_.push_back(key_literal(key));
     }
 
-    std::string text() const {
+    std::vector<std::string> statements() const {
         switch (request_.kind) {
             case Kind::first:
-                return statement({}, request_.limit);
+                return {statement({}, request_.limit)};
             case Kind::last:
-                return statement({}, request_.limit, " DESC");
+                return {statement({}, request_.limit, " DESC")};
             case Kind::equal:
-                return statement(equal(keys_.size()), request_.limit);
+                return {statement(equal(keys_.size()), request_.limit)};
             case Kind::row:
-                return head_ + " WHERE row_id=" + std::to_string(request_.row);
+                return {head_ + " WHERE row_id=" + std::to_string(request_.row)};
             case Kind::after:
                 break;
         }
-        if (request_.leading == nullptr) return statement(joined(behind(0), " OR "), request_.limit);
-        std::string rows;
-        if (const auto ranges = behind(1); !ranges.empty())
-            rows = statement(equal(1) + " AND (" + joined(ranges, " OR ") + ")", request_.limit) + ';';
-        else
-            rows = head_ + " WHERE FALSE;";
-        return rows + statement(greater(0), 1);
+        if (request_.leading == nullptr) return {statement(joined(behind(0), " OR "), request_.limit)};
+        const auto ranges = behind(1);
+        return {ranges.empty() ? head_ + " WHERE FALSE"
+                               : statement(equal(1) + " AND (" + joined(ranges, " OR ") + ")", request_.limit),
+                statement(greater(0), 1)};
     }
 
 private:
@@ -121,7 +120,8 @@ private:
     std::string head_;
     std::vector<std::string> order_;
     std::vector<std::string> keys_;
-    // An index ends with the row id by itself, and the server sorts anew where one of unique keys is asked for it.
+    // An index ends with the row id by itself, and the server sorts anew where it is named behind unique keys; where
+    // some of these are Null it sorts anyway.
     bool names_row_ = true;
 };
 
@@ -167,8 +167,14 @@ std::string key_literal(const Value& value) {
     return value.is_text() ? hexadecimal(turkish::sort_key(value.text())) : literal(value);
 }
 
-std::string read(const std::string& table, const ReadRequest& request) {
-    return Query(table, request).text();
+std::vector<std::string> read(const std::string& table, const ReadRequest& request) {
+    return Query(table, request).statements();
+}
+
+std::string next_version(std::optional<std::int64_t> known) {
+    if (!known) return "IF(@@in_transaction,row_version+1,NULL)";
+    return "IF(@@in_transaction AND row_version=" + std::to_string(*known) + ',' + std::to_string(*known + 1) +
+           ",NULL)";
 }
 
 namespace {
@@ -195,17 +201,16 @@ std::string assignments(const TableInfo& table, std::span<const Assignment> valu
 }
 
 std::string columns(const TableInfo& table, std::span<const Assignment> values) {
-    std::string text;
-    each_column(table, values,
-                [&](const std::string& column, const std::string&) { text += (text.empty() ? "(" : ",") + column; });
-    return text.empty() ? "()" : text + ')';
+    std::string text = "(row_version";
+    each_column(table, values, [&](const std::string& column, const std::string&) { text += ',' + column; });
+    return text + ')';
 }
 
 std::string row(const TableInfo& table, std::span<const Assignment> values) {
-    std::string text;
-    each_column(table, values,
-                [&](const std::string&, const std::string& value) { text += (text.empty() ? "(" : ",") + value; });
-    return text.empty() ? "()" : text + ')';
+    std::string text = "(";
+    text += first_version;
+    each_column(table, values, [&](const std::string&, const std::string& value) { text += ',' + value; });
+    return text + ')';
 }
 
 }  // namespace mariadb_sql

@@ -4,8 +4,10 @@
 
 #include "store/engine.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace mariadb_sql {
 
@@ -22,11 +24,16 @@ std::string key_literal(const store::Value& value);
 
 // Asks for the row id, the version and the columns of the request. Two statements where `leading` is set: the rows of
 // that leading key, and the first one behind them.
-std::string read(const std::string& table, const store::ReadRequest& request);
+std::vector<std::string> read(const std::string& table, const store::ReadRequest& request);
+
+// A new row's version and an old one's next version. On a cluster the server may undo a transaction between two
+// statements without a word, so each write fails by itself where none is open.
+inline constexpr auto first_version = "IF(@@in_transaction,0,NULL)";
+std::string next_version(std::optional<std::int64_t> known);
 
 // ",`A`=1,`A__key`=..." for each value, without the first comma.
 std::string assignments(const store::TableInfo& table, std::span<const store::Assignment> values);
-// "(`A`,`A__key`)" and "(1,X'...')", for one row.
+// "(row_version,`A`,`A__key`)" and the values for one row.
 std::string columns(const store::TableInfo& table, std::span<const store::Assignment> values);
 std::string row(const store::TableInfo& table, std::span<const store::Assignment> values);
 

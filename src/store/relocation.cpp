@@ -105,6 +105,10 @@ void MoveToServer::require_free(const ServerPlace& place) {
 void MoveToServer::run(const ServerPlace& place, const TableDone& copied) {
     MariadbEngine::drop(path_, place);
     write_text(path_, draft_, server_place_text(place), QFile::permissions(native_));
+    if (read_server_place(path_, draft_) != place) {  // a password may begin with a blank
+        QFile::remove(draft_);
+        throw messages::error(u"Sunucu bilgisi bu dosyaya yazılamıyor; başında ya da sonunda boşluk olabilir", path_);
+    }
     MariadbEngine::create(path_, place, source_->tables());
     try {
         fill(place, copied);

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <functional>
 #include <map>
 
@@ -17,10 +18,6 @@ namespace {
 constexpr auto heading = "[kurvo-sunucu]";
 // A database is one page at least. Opening and closing one beside the engine would drop the locks of this process.
 constexpr qint64 smallest_database = 4096;
-
-bool is_yes(const QString& value) {
-    return value.compare(QStringLiteral("evet"), Qt::CaseInsensitive) == 0;
-}
 
 // Reads one line after the other into a place; a false answer refuses the value.
 class Reader {
@@ -42,14 +39,20 @@ private:
         place_.port = value.toInt(&is_number);
         return is_number && place_.port > 0 && place_.port < 65536;
     }
+    bool set_tls(const QString& value) {
+        place_.tls = value == QStringLiteral("evet");
+        return place_.tls || value == QStringLiteral("hayir");
+    }
     bool set_prefix(const QString& value) {
         static const QRegularExpression legal(QStringLiteral("^[a-z0-9_]{1,20}$"));
         place_.prefix = value;
         return legal.match(value).hasMatch();
     }
     bool set_hosts(const QString& value) {
+        static const QRegularExpression legal(QStringLiteral("^[A-Za-z0-9._-]+(:[0-9]{1,5})?$"));
         for (const QString& host : value.split(u',', Qt::SkipEmptyParts)) place_.hosts << host.trimmed();
-        return !place_.hosts.isEmpty();
+        return !place_.hosts.isEmpty() &&
+               std::ranges::all_of(place_.hosts, [](const QString& host) { return legal.match(host).hasMatch(); });
     }
 
     ServerPlace& place_;
@@ -62,7 +65,7 @@ private:
         {QStringLiteral("parola"), [this](const QString& value) { return set(place_.password, value), true; }},
         {QStringLiteral("parola_dosyasi"), [this](const QString& value) { return set(place_.password_file, value); }},
         {QStringLiteral("onek"), [this](const QString& value) { return set_prefix(value); }},
-        {QStringLiteral("tls"), [this](const QString& value) { return place_.tls = is_yes(value), true; }},
+        {QStringLiteral("tls"), [this](const QString& value) { return set_tls(value); }},
         {QStringLiteral("sertifika"), [this](const QString& value) { return set(place_.certificate, value); }},
     };
 };
@@ -82,7 +85,8 @@ QString password_in(const ServerPlace& place, const QString& name, const QString
 std::optional<ServerPlace> read_server_place(const QString& name, const QString& native_path) {
     QFile file(native_path);
     if (file.size() >= smallest_database || !file.open(QIODevice::ReadOnly)) return std::nullopt;
-    const QString text = QString::fromUtf8(file.readAll());
+    QString text = QString::fromUtf8(file.readAll());
+    if (text.startsWith(QChar::ByteOrderMark)) text.remove(0, 1);
     const QStringList lines = text.split(u'\n');
     if (lines.front().trimmed() != QLatin1String(heading)) return std::nullopt;
 

@@ -57,12 +57,15 @@ void Database::Session::leave(std::uint64_t transaction, std::string_view table)
     if (edits_ == 0 && !scoped_) end(table);
 }
 
-void Database::Session::abandon(std::uint64_t transaction) noexcept {
+void Database::Session::drop(std::uint64_t transaction, std::string_view table) {
     if (transaction != transaction_ || edits_ == 0) return;
     --edits_;
-    if (edits_ > 0 || scoped_) return;
+    if (edits_ == 0 && !scoped_) end(table);
+}
+
+void Database::Session::abandon(std::uint64_t transaction) noexcept {
     try {
-        end({});  // what another edit has written stays
+        drop(transaction, {});
     } catch (...) {
         roll_back();
     }
@@ -129,6 +132,11 @@ EditLock::~EditLock() {
 void EditLock::done() {
     const auto session = std::exchange(session_, nullptr);
     session->leave(transaction_, table_);
+}
+
+void EditLock::cancel() {
+    const auto session = std::exchange(session_, nullptr);
+    session->drop(transaction_, table_);
 }
 
 }  // namespace store

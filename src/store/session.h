@@ -26,6 +26,8 @@ struct Database::Session {
     // To be called ahead of the write of an edit: the engine hears where nothing else stands in the transaction.
     void expect_end();
     void leave(std::uint64_t transaction, std::string_view table);
+    // Gives an edit up; what another edit of the transaction has written stays.
+    void drop(std::uint64_t transaction, std::string_view table);
     void abandon(std::uint64_t transaction) noexcept;
     // Record sets forget what they have read of the table: now, and again when the transaction ends.
     void has_written(std::uint64_t& counter);
@@ -59,6 +61,7 @@ public:
     EditLock& operator=(EditLock&&) = delete;
 
     void done();
+    void cancel();
 
 private:
     std::shared_ptr<Database::Session> session_;  // none when done

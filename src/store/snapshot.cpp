@@ -2,6 +2,7 @@
 
 #include "platform/paths.h"
 #include "store/engine.h"
+#include "store/engine_copy.h"
 
 namespace store {
 
@@ -33,6 +34,11 @@ bool Snapshot::take() {
         if (!changed) return true;
     }
     return false;
+}
+
+void add_rows(const QString& from, const QString& to, const std::string& table, bool empty_first) {
+    const auto source = open_engine(from, paths::native(from)), target = open_engine(to, paths::native(to));
+    add_rows(*source, *target, table, empty_first);
 }
 
 QStringList damages(const QString& path) {

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace store {
@@ -37,6 +38,10 @@ private:
     };
     std::vector<File> files_;
 };
+
+// Adds the rows of a table of `from` to that of the same name and fields in `to`, whose former rows go with
+// `empty_first`: one write in few trips, for a file that lies on a server.
+void add_rows(const QString& from, const QString& to, const std::string& table, bool empty_first);
 
 // What is wrong with the structure of a file, in the engine's own words and only the first of many; empty for a sound
 // one.

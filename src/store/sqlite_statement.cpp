@@ -1,8 +1,7 @@
 #include "store/sqlite_statement.h"
 
-#include <QByteArray>
-
 #include <string>
+#include <utility>
 
 namespace store {
 
@@ -32,11 +31,20 @@ void SqliteStatement::bind(int place, const Value& value) {
     } else if (const auto* number = std::get_if<double>(&value.raw())) {
         check(sqlite3_bind_double(statement_.get(), place, *number));
     } else if (const auto* text = std::get_if<QString>(&value.raw())) {
-        const QByteArray utf8 = text->toUtf8();
-        bind(place, std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+        bind_text(place, *text);
     } else {
         check(sqlite3_bind_null(statement_.get(), place));
     }
+}
+
+// Kept here, since a copy by SQLite would cost memory of its own for each text of a long row.
+void SqliteStatement::bind_text(int place, const QString& text) {
+    QByteArray utf8 = text.toUtf8();
+    const auto index = static_cast<std::size_t>(place);
+    if (index >= texts_.size()) texts_.resize(index + 1);
+    check(sqlite3_bind_text64(statement_.get(), place, utf8.constData(), static_cast<sqlite3_uint64>(utf8.size()),
+                              SQLITE_STATIC, SQLITE_UTF8));
+    texts_[index] = std::move(utf8);
 }
 
 bool SqliteStatement::step() {

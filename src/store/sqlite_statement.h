@@ -3,11 +3,14 @@
 
 #include "store/batch.h"
 
+#include <QByteArray>
+
 #include <sqlite3.h>
 
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace store {
 
@@ -45,7 +48,9 @@ private:
         void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
     };
     void check(int code) const;
+    void bind_text(int place, const QString& text);
 
+    std::vector<QByteArray> texts_;  // bound ones by place, where SQLite reads them
     std::unique_ptr<sqlite3_stmt, Finalize> statement_;
 };
 

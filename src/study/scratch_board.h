@@ -3,6 +3,9 @@
 
 #include "store/record.h"
 
+#include <array>
+#include <vector>
+
 // Folds in the table Kayit of c:\qlm\siletud.mdb, whose key is start, end, lesson and teacher. The file lives exactly
 // as long as the object, also when something fails meanwhile.
 class ScratchBoard {
@@ -13,8 +16,8 @@ public:
     // Counts the student of the current row of Etud in. The topic of a session is that of its first student.
     void add(store::Recordset& etud);
 
-    // All rows, to be walked in the order of the key.
-    store::Recordset& rows() { return kayit_; }
+    // Writes what has been counted and gives all rows, to be walked in the order of the key.
+    store::Recordset& rows();
 
 private:
     // Made before the database and gone after it, since an open file cannot be removed everywhere.
@@ -26,8 +29,17 @@ private:
         Place& operator=(const Place&) = delete;
     };
 
+    struct Session {
+        std::array<store::Value, 4> key;
+        store::Value topic;
+        int students;
+    };
+
+    void write(const Session& session);
+
     Place place_;
     store::Database database_;
     store::WriteScope scope_;  // never committed: nothing outlives the file
     store::Recordset kayit_;
+    std::vector<Session> counted_;  // not written yet
 };

@@ -2,12 +2,14 @@
 // table is compared with expected/FILE.TABLE.csv; a table without such a file must be as the school had it.
 #include "audit.h"
 #include "day_school.h"
+#include "platform/paths.h"
 #include "platform/rich_text.h"
 #include "platform/text_file.h"
 #include "school.h"
 #include "store/record.h"
 #include "support/drives.h"
 #include "support/run_all.h"
+#include "support/test_engine.h"
 
 #include <QProcess>
 
@@ -115,6 +117,8 @@ class DayTest : public QObject {
 private slots:
     void initTestCase() {
         day_school::make(told + "/school");
+        const QString data = school::data_file(day_school::root, {});
+        for (const QString& name : paths::files_in(data, ".mdb")) test_engine::take_over(data + name);
         // Both see the school on the network's drive; what is local to a workstation each has for itself.
         const QString second_drives = drives_.path("masa-2");
         QVERIFY(QDir().mkpath(second_drives) && QFile::link(drives_.path("p"), second_drives + "/p"));

@@ -105,6 +105,47 @@ private slots:
                  QStringList({"|Şığ ", "", "1.5"}));
     }
 
+    void xml_is_read_however_it_is_written() {
+        const Drives drives;
+        Parts parts = xlsx(
+            "<x:row xmlns:r='7' spans='1>\"2'\n r = \"1\"><!-- <c> --><x:c t='str'><x:v>&lt;&#x15F;&#305;&quot;\r\n"
+            "<![CDATA[<&amp;>]]><?p <v> ?></x:v ></x:c></x:row>");
+        const QStringList rows{"<şı\"\n<&amp;>"};
+        QCOMPARE(rows_of(drives, package(parts)), rows);
+        const QString sheet = parts.back().second;
+        for (const QByteArray& encoded : {"\xEF\xBB\xBF<?xml version='1.0' encoding=\"utf-8\"?>\n" + sheet.toUtf8(),
+                                          QByteArray(QStringEncoder(QStringConverter::Utf16LE)(sheet)),
+                                          QByteArray(QStringEncoder(QStringConverter::Utf16BE)("\uFEFF" + sheet))}) {
+            parts.back().second = encoded;
+            QCOMPARE(rows_of(drives, package(parts)), rows);
+        }
+        // Far more than is unpacked at a time.
+        QByteArray many;
+        QStringList texts;
+        for (int i = 0; i < 9000; ++i) {
+            texts << QString("Ş<%1").arg(i);
+            many += "<row><c t='str'><v>" + texts.last().toHtmlEscaped().toUtf8() + "</v></c></row>";
+        }
+        QCOMPARE(rows_of(drives, package(xlsx(many))), texts);
+    }
+
+    void xml_that_is_not_well_formed_is_refused() {
+        const Drives drives;
+        for (const QByteArray wrong :
+             {"<row><c><v>1</c></v></row>", "<row r=1/>", "<row r='1", "<row", "<row r='1's='2'/>", "<row r='<'/>",
+              "<row r/>", "<c t='str'><v>&euro;</v></c>", "<c t='str'><v>&#1;</v></c>",
+              "<c t='str'><v>&#xD800;</v></c>", "<c t='str'><v>a & b</v></c>", "<c t='str'><v>\x01</v></c>",
+              "<c t='str'><v>\xFE\xFD</v></c>", "<row><![CDATA[x</row>", "<!-- ", "</sheetData></worksheet><row/>",
+              "</sheetData></worksheet>1"})
+            QVERIFY2(refusal([&] { rows_of(drives, package(xlsx(wrong))); }).contains("bozuk ya da eksik"), wrong);
+        Parts parts = xlsx({});
+        for (const QByteArray& sheet : {QByteArray(), QByteArray(" "), QByteArray("<worksheet><sheetData>"),
+                                        QByteArray("<?xml version='1.0' encoding='windows-1254'?><worksheet/>")}) {
+            parts.back().second = sheet;
+            QVERIFY2(refusal([&] { rows_of(drives, package(parts)); }).contains("bozuk ya da eksik"), sheet);
+        }
+    }
+
     void encoding_and_separator_of_a_text_show_themselves() {
         const Drives drives;
         const QString text = "No;Ad;Tutar\r\n1250;\"Işıl \"\"Ş\"\"; Nur\";12,50\r\n0012;;1,5\r\n";

@@ -3,6 +3,7 @@
 #include "desk.h"
 #include "platform/file_choice.h"
 #include "platform/paths.h"
+#include "support/test_engine.h"
 
 #include <QListWidget>
 #include <QProgressBar>
@@ -125,6 +126,7 @@ private slots:
 
     // Where only the row fails, those before it stay; where the whole file does, they are lost and not counted.
     void failure_in_the_middle_leaves_what_the_counters_tell() {
+        if (test_engine::is_server()) QSKIP("a failing row is made with the means of a file");
         for (const auto& [how, kept] :
              {std::pair{"ABORT", QStringList({"1", "2", "5"})}, {"ROLLBACK", QStringList("5")}}) {
             ImportDesk desk("a;;1;9A\nb;;2;9A\nc;;3;9A\nd;;4;9A\n");

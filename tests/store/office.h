@@ -4,6 +4,7 @@
 #include "store/record.h"
 #include "support/drives.h"
 #include "support/refusal.h"
+#include "support/test_engine.h"
 
 #include <QTest>
 
@@ -11,6 +12,7 @@ struct Office {
     Office() {
         QDir(drives.path("")).mkpath("c/okul");
         store::create_file(file, store::catalogue(store::FileKind::term));
+        test_engine::take_over(file);
     }
 
     Drives drives;

@@ -85,7 +85,8 @@ private slots:
             Workstation other(role, desk.file);
             QCOMPARE(other.hear(), "held");
             other.kill();
-            QCOMPARE(QFile::exists(desk.drives.path("c/okul/2026ogr.mdb-journal")), role == "fill");
+            const bool is_file_half_written = role == "fill" && !test_engine::is_server();
+            QCOMPARE(QFile::exists(desk.drives.path("c/okul/2026ogr.mdb-journal")), is_file_half_written);
             QCOMPARE(desk.rows.RecordCount(), 1);
             QCOMPARE(desk.amount(), 100.0);
             QCOMPARE(desk.database.OpenRecordset("Dmazeret").RecordCount(), 0);
@@ -97,6 +98,7 @@ private slots:
 #ifdef Q_OS_WIN
         QSKIP("no limit on the size of files");
 #endif
+        if (test_engine::is_server()) QSKIP("the disk is not this process's");
         Instalment desk;
         Workstation other("overflow", desk.file);
         const QString said = other.hear();

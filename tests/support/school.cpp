@@ -2,6 +2,7 @@
 
 #include "platform/paths.h"
 #include "platform/text_file.h"
+#include "support/test_engine.h"
 
 #include <stdexcept>
 
@@ -23,6 +24,7 @@ void School::make_file(const QString& file, FileKind kind) const {
     const QString first = folder.filePath(QStringLiteral("%1.mdb").arg(static_cast<int>(kind)));
     if (!QFile::exists(first)) store::create_file(first, store::catalogue(kind));
     if (!QFile::copy(first, paths::native(file))) throw std::runtime_error("the file of the school cannot be made");
+    test_engine::take_over(file);
 }
 
 std::vector<std::pair<FileKind, QString>> School::files() const {

@@ -1,11 +1,11 @@
 #include "web/remote_directory.h"
 
 #include "forms/kurvo_yeni.h"
-#include "mariadb_server.h"
 #include "platform/clock.h"
 #include "platform/prompt.h"
 #include "platform/slots.h"
 #include "register/program.h"
+#include "support/mariadb_server.h"
 #include "support/refusal.h"
 #include "support/run_all.h"
 #include "support/school.h"

@@ -3,6 +3,7 @@
 #include "audit_checks.h"
 #include "platform/refusal.h"
 #include "school.h"
+#include "store/relocation.h"
 #include "store/snapshot.h"
 
 #include <QTemporaryDir>
@@ -34,7 +35,7 @@ public:
 
     std::vector<Finding> run() {
         for (Copy& copy : copies_)
-            if (has_sound_structure(copy) && has_its_tables(copy)) keep(copy);
+            if (has_sound_structure(copy.name, copy.path) && has_its_tables(copy)) keep(copy);
         for (Copy& copy : copies_)
             if (store::Database* file = readable(copy)) check(copy, *file);
         return std::move(findings_);
@@ -44,6 +45,9 @@ private:
     void take(const school::File& file, const QString& term) {
         const QString name = file.path.mid(file.path.lastIndexOf(u'\\') + 1);
         const QString path = folder_.filePath(name);
+        bool on_server = false;
+        if (!attempt(name, [&] { on_server = store::server_place_of(file.path).has_value(); })) return;
+        if (on_server && !has_sound_structure(name, file.path)) return;  // not all of it comes over with the rows
         if (attempt(name, [&] { snapshot_.add(file.path, path); }))
             copies_.push_back({file.kind, name, term, path, {}});
     }
@@ -60,10 +64,10 @@ private:
         }
     }
 
-    bool has_sound_structure(const Copy& copy) {
+    bool has_sound_structure(const QString& name, const QString& path) {
         QStringList damages;
-        if (!attempt(copy.name, [&] { damages = store::damages(copy.path); })) return false;
-        for (const QString& damage : damages) findings_.push_back({true, copy.name, u"dosya bozuk: "_s + damage});
+        if (!attempt(name, [&] { damages = store::damages(path); })) return false;
+        for (const QString& damage : damages) findings_.push_back({true, name, u"dosya bozuk: "_s + damage});
         return damages.isEmpty();
     }
 

@@ -5,6 +5,7 @@
 #include "platform/refusal.h"
 #include "platform/text_file.h"
 #include "school.h"
+#include "store/relocation.h"
 #include "store/snapshot.h"
 
 #include <QDir>
@@ -43,12 +44,21 @@ QStringList databases_of(const QString& root) {
     return names;
 }
 
+// What belongs to the move of a school to a server: it stays with the school's folder.
+QSet<QString> of_moves(const QString& folder, const QStringList& databases) {
+    QSet<QString> names;
+    for (const QString& database : databases)
+        for (const QString& name : store::companions_of(folder + u'/' + database)) names << QDir::cleanPath(name);
+    return names;
+}
+
 // What lies beside the databases, by native names relative to `folder`: no traces of an open database.
 QStringList other_files(const QString& folder, const QStringList& databases) {
-    QSet<QString> known{folder + u'/' + note_file};
+    QSet<QString> known = of_moves(folder, databases);
+    known << folder + u'/' + note_file;
     for (const QString& name : databases) {
-        const QString native = paths::native(folder + u'/' + name);
-        known << QDir::fromNativeSeparators(native) << QDir::fromNativeSeparators(native) + u"-journal"_s;
+        const QString native = QDir::fromNativeSeparators(paths::native(folder + u'/' + name));
+        known << native << native + u"-journal"_s;
     }
     QStringList names;
     for (QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories); files.hasNext();)
@@ -80,7 +90,9 @@ Taken copy_all(const QString& from, const QString& to, const QStringList& databa
     }
     const bool one_moment = snapshot.take();
     const QStringList others = other_files(from, databases);
-    for (const QString& name : others) copy_file(from + u'/' + name, to + u'/' + name);
+    const QSet<QString> kept = of_moves(to, databases);
+    for (const QString& name : others)
+        if (!kept.contains(to + u'/' + name)) copy_file(from + u'/' + name, to + u'/' + name);
     return {static_cast<int>(databases.size() + others.size()), one_moment};
 }
 
@@ -109,8 +121,18 @@ void require_sound(const QString& folder, const QStringList& databases) {
             refuse(u"Okulun bir dosyası bozuk, yedek alınmadı: "_s + name);
 }
 
-void set_damaged_aside(const QString& file) {
-    if (paths::exists(file) && !is_sound(file)) store::set_aside(file);
+// A server that cannot be reached, or whose tables are others, is found out before anything of the school is changed.
+void make_ready(const QString& source, const QString& root, const QStringList& databases) {
+    QStringList of_files;
+    for (const QString& name : databases) {
+        if (!paths::exists(root + name)) continue;
+        if (store::server_place_of(root + name))
+            store::make_ready(root + name, source + name);
+        else
+            of_files.append(root + name);
+    }
+    for (const QString& file : of_files)
+        if (!is_sound(file)) store::set_aside(file);
 }
 
 }  // namespace
@@ -147,7 +169,7 @@ QString taken_at(const QString& source) {
 QStringList put_back(const QString& source, const QString& root) {
     taken_at(source);
     const QStringList databases = databases_of(source);
-    for (const QString& name : databases) set_damaged_aside(school::folder(root) + name);
+    make_ready(school::folder(source), school::folder(root), databases);
     try {
         copy_all(native_folder(source), native_folder(root), databases);
     } catch (const std::runtime_error& failure) {

@@ -19,5 +19,7 @@ QByteArray standard_input();
 
 // Puts the question and reads one line; true for "e" or "evet".
 bool agrees(const QString& question);
+// Puts the question and reads one line, which a terminal does not show.
+QString secret(const QString& question);
 
 }  // namespace console

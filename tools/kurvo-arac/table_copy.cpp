@@ -2,6 +2,10 @@
 
 #include "csv.h"
 #include "store/conversion.h"
+#include "store/relocation.h"
+#include "store/snapshot.h"
+
+#include <QTemporaryDir>
 
 #include <charconv>
 #include <cmath>
@@ -110,8 +114,36 @@ void add_row(store::Recordset& records, const csv::Row& row, const std::vector<c
     }
 }
 
-void empty_table(store::Recordset& records) {
-    store::scan_all(records, [&] { records.Delete(); });
+// What is to be loaded: the header, then the rows.
+struct Text {
+    const std::vector<csv::Row>& rows;
+    std::vector<const store::FieldDef*> columns;
+};
+
+void add_one_by_one(store::Database& database, const std::string& table, const Text& text, bool empty_first) {
+    store::WriteScope scope(database);
+    store::Recordset records = database.OpenRecordset(table);
+    if (empty_first) store::scan_all(records, [&] { records.Delete(); });
+    for (auto row = text.rows.begin() + 1; row != text.rows.end(); ++row) add_row(records, *row, text.columns);
+    scope.commit();
+}
+
+// A server would be asked for each row. They are gathered in a scratch file, which refuses what the table would refuse,
+// and go over together. False, and nothing added, where the table holds a key of theirs: who adds them one by one meets
+// it.
+bool add_at_once(const QString& file, const store::TableDef& table, const Text& text, bool empty_first) {
+    const QTemporaryDir folder;
+    const QString scratch = folder.filePath(u"yukle.mdb"_s);
+    store::Database gathered = store::CreateDatabase(scratch);
+    gathered.CreateTable(table);
+    add_one_by_one(gathered, table.name, text, false);
+    try {
+        store::add_rows(scratch, file, table.name, empty_first);
+        return true;
+    } catch (const std::system_error& error) {
+        if (error.code() != store::Errc::duplicate_key) throw;
+        return false;
+    }
 }
 
 QString index_line(const store::IndexDef& index) {
@@ -158,13 +190,11 @@ void dump(const QString& file, const QString& table, const QString& index,
 
 int load(const QString& file, const QString& table, const QByteArray& text, bool empty_first) {
     store::Database database = store::OpenDatabase(file);
-    store::Recordset records = database.OpenRecordset(table.toStdString());
+    const store::TableDef definition = database.OpenRecordset(table.toStdString()).definition();
     const std::vector<csv::Row> rows = csv::read(text);
-    const auto columns = columns_of(rows, records.definition());
-    store::WriteScope scope(database);
-    if (empty_first) empty_table(records);
-    for (auto row = rows.begin() + 1; row != rows.end(); ++row) add_row(records, *row, columns);
-    scope.commit();
+    const Text loaded{rows, columns_of(rows, definition)};
+    if (!store::server_place_of(file) || !add_at_once(file, definition, loaded, empty_first))
+        add_one_by_one(database, definition.name, loaded, empty_first);
     return static_cast<int>(rows.size()) - 1;
 }
 

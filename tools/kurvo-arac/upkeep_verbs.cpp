@@ -3,6 +3,7 @@
 #include "audit.h"
 #include "backup.h"
 #include "console.h"
+#include "move_verb.h"
 #include "platform/refusal.h"
 #include "school.h"
 
@@ -74,5 +75,6 @@ kopyalanır. Yarıda kesilen yedek HEDEF.yarim adıyla kalır, yedek sayılmaz.)
 Önce bütün iş istasyonlarında program kapatılır. Okulun bozuk bir veritabanı DOSYA.bozuk adıyla yanında kalır, yedekte
 olmayan veritabanlarına dokunulmaz.)"_s,
              {root_option, {u"evet"_s, {}}},
-             put_back}};
+             put_back},
+            move_verb()};
 }

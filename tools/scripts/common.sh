@@ -12,13 +12,13 @@ as_root() {
   fi
 }
 
-# Installs the packages of packages.txt that are missing.
+# install_packages [NAME...]: installs those of packages.txt, and these, that are missing.
 install_packages() {
   local name missing=()
   while read -r name; do
     case "$name" in "" | "#"*) continue ;; esac
     dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null | grep -qx installed || missing+=("$name")
-  done <packages.txt
+  done < <(cat packages.txt && printf '%s\n' "$@")
   [ "${#missing[@]}" -gt 0 ] || return 0
   echo "Installing: ${missing[*]}"
   as_root apt-get update -qq

@@ -1,6 +1,7 @@
 // A real server of a test program's own, on loopback addresses that no other run uses.
 #pragma once
 
+#include <QMap>
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -9,7 +10,7 @@
 
 struct st_mysql;
 
-// An address of 127.0.0.0/8; the server's is the first.
+// An address of 127.0.0.0/8; that of a single server is the first.
 QString loopback(int place);
 
 // Someone at the server's own socket with all rights. Failures throw with the server's words.
@@ -22,18 +23,20 @@ private:
     std::unique_ptr<st_mysql, void (*)(st_mysql*)> connection_;
 };
 
-// Throws with words where the machine has no server to start.
+// Killed with the object. Nothing of it reaches the disk in time: its data are worth no more than the test.
 class MariadbServer {
 public:
-    MariadbServer();
+    // Begins to start; `arguments` come behind the usual ones, `files` (name, content) lie beside the tables. Throws
+    // with words where the machine has no server to start.
+    explicit MariadbServer(const QString& address = loopback(1), const QStringList& arguments = {},
+                           const QMap<QString, QByteArray>& files = {});
     ~MariadbServer();
 
-    Administrator administrator() const { return Administrator(socket_); }
+    // Waits for the server to come up.
+    Administrator administrator();
     qint64 pid() const { return process_.processId(); }
 
 private:
-    void run(const QString& name, QStringList arguments);
-
     QTemporaryDir folder_;
     QString socket_ = folder_.filePath("s.sock");
     QProcess process_;
