@@ -72,7 +72,7 @@ void MariadbEngine::commit(std::string_view table) {
             try {
                 return send_commit(table);
             } catch (const MariadbFailure& failure) {
-                if (failure.is_lost()) {
+                if (failure.is_lost() || failure.done > journal_.commit_place) {
                     if (has_arrived(table)) return;
                 } else if (failure.is_conflict() && journal_.can_repeat()) {
                     repeat();
@@ -95,7 +95,8 @@ void MariadbEngine::send_commit(std::string_view table) {
     const bool begins = std::exchange(state_, State::open) == State::promised;
     const auto held = journal_.held;
     const std::size_t place_of_held = begins ? statements_to_begin : 0;
-    const std::size_t place_of_token = place_of_held + (held ? 1 : 0) + 2;
+    journal_.commit_place = place_of_held + (held ? 1 : 0) + 1;
+    const std::size_t place_of_token = journal_.commit_place + 1;
     std::int64_t stored = 0;
     const auto found = connection().run(
         (begins ? beginning() : std::string()) + (held ? held->statement + ';' : std::string()) + "INSERT INTO " +

@@ -29,7 +29,6 @@ constexpr auto settings =
     "tx_isolation='READ-COMMITTED',innodb_lock_wait_timeout=5,lock_wait_timeout=5,idle_transaction_timeout=300,"
     "max_statement_time=0,sql_safe_updates=0,sql_select_limit=18446744073709551615;"
     "SELECT @@max_allowed_packet";
-constexpr auto cluster_setting = "SET SESSION wsrep_sync_wait=1";
 
 std::int64_t trips = 0;
 
@@ -129,20 +128,31 @@ void MariadbConnection::connect(const ServerPlace& place, const QString& host) {
     most_bytes_ = SIZE_MAX;
     std::int64_t most = 0;
     run(settings, [&](std::size_t, const Row& row) { most = row.whole(0); });
-    try {
-        run(cluster_setting);
-    } catch (const MariadbFailure& failure) {
-        if (failure.code != ER_UNKNOWN_SYSTEM_VARIABLE) throw;  // of a server that cannot be part of a cluster
-    }
+    join_cluster();
     most_bytes_ = static_cast<std::size_t>(most) - 1;
 }
 
 // On an encrypted connection the end of the other side is a failure of the encryption.
-void MariadbConnection::fail() const {
+void MariadbConnection::fail(std::size_t done) const {
     const unsigned code = mysql_errno(connection_.get());
     const bool is_connected = most_bytes_ != SIZE_MAX;
     throw MariadbFailure{is_connected && code == CR_SSL_CONNECTION_ERROR ? CR_SERVER_LOST : code,
-                         mysql_error(connection_.get())};
+                         mysql_error(connection_.get()), done};
+}
+
+// A node that has lost the others still lets itself be set up and asked for what stands in no table.
+void MariadbConnection::join_cluster() {
+    bool is_node = false, is_ready = false;
+    try {
+        run("SET SESSION wsrep_sync_wait=1;SELECT @@wsrep_on;SHOW STATUS LIKE 'wsrep_ready'",
+            [&](std::size_t statement, const Row& row) {
+                if (statement == 1) is_node = row.whole(0) != 0;
+                if (statement == 2) is_ready = row.text(1) == "ON";
+            });
+    } catch (const MariadbFailure& failure) {
+        if (failure.code != ER_UNKNOWN_SYSTEM_VARIABLE) throw;  // of a server that cannot be part of a cluster
+    }
+    if (is_node && !is_ready) throw MariadbFailure{ER_UNKNOWN_COM_ERROR, "wsrep_ready=OFF"};
 }
 
 std::vector<std::uint64_t> MariadbConnection::run(std::string_view statements, const TakeRow& take) {
@@ -154,13 +164,13 @@ std::vector<std::uint64_t> MariadbConnection::run(std::string_view statements, c
     std::vector<std::uint64_t> found;
     for (int more = 0; more == 0; more = mysql_next_result(connection)) {
         const std::unique_ptr<MYSQL_RES, void (*)(MYSQL_RES*)> rows(mysql_use_result(connection), mysql_free_result);
-        if (!rows && mysql_field_count(connection) != 0) fail();
+        if (!rows && mysql_field_count(connection) != 0) fail(found.size());
         while (const MYSQL_ROW row = rows ? mysql_fetch_row(rows.get()) : nullptr)
             if (take) take(found.size(), {row, mysql_fetch_lengths(rows.get())});
-        if (mysql_errno(connection) != 0) fail();
+        if (mysql_errno(connection) != 0) fail(found.size());
         found.push_back(rows ? mysql_num_rows(rows.get()) : mysql_affected_rows(connection));
     }
-    if (mysql_errno(connection) != 0) fail();
+    if (mysql_errno(connection) != 0) fail(found.size());
     return found;
 }
 

@@ -18,6 +18,7 @@ namespace store {
 struct MariadbFailure {
     unsigned code;
     std::string words;
+    std::size_t done = 0;  // statements of the call that were answered before
 
     // Nobody is there any more, or a node of a cluster that has lost the others: a new connection may help.
     bool is_lost() const;
@@ -58,7 +59,8 @@ private:
     };
 
     void connect(const ServerPlace& place, const QString& host);
-    [[noreturn]] void fail() const;
+    void join_cluster();
+    [[noreturn]] void fail(std::size_t done = 0) const;
 
     std::unique_ptr<st_mysql, Close> connection_;
     std::size_t most_bytes_ = SIZE_MAX;  // that the server takes at once

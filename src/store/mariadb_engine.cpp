@@ -50,7 +50,8 @@ MariadbEngine::~MariadbEngine() {
     if (connection_) keep_connection(place_, std::move(connection_));
 }
 
-void MariadbEngine::fail(const MariadbFailure& failure, std::string_view table) {
+void MariadbEngine::fail(const MariadbFailure& failure, std::string_view of_table) {
+    const std::string table(of_table);  // it may stand in the journal, which is emptied here
     const QString place = name_ + QStringLiteral(" (") + QString::fromStdString(failure.words) + u')';
     const bool was_writing = state_ == State::promised || state_ == State::open;
     end_where_undone(failure);

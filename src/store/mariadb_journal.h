@@ -51,8 +51,9 @@ public:
         return known == versions_.end() ? std::nullopt : std::optional(known->second);
     }
 
-    std::optional<Write> held;  // to be sent with the commit
-    std::int64_t token = 0;     // by which the commit is found again
+    std::optional<Write> held;            // to be sent with the commit
+    std::int64_t token = 0;               // by which the commit is found again
+    std::size_t commit_place = SIZE_MAX;  // of the commit among the statements sent with it
 
 private:
     static constexpr std::size_t most_bytes = 8 << 20;
