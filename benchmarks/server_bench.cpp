@@ -196,7 +196,7 @@ void measure_server(Table& rows, const BigSchool& school) {
     rows.compare(
         "server beside file, Seek", 60, [&] { return served.seek(); }, [&] { return filed.seek(); });
     rows.compare(
-        "server beside file, walk", 6, [&] { return served.walk(); }, [&] { return filed.walk(); });
+        "server beside file, walk", 8, [&] { return served.walk(); }, [&] { return filed.walk(); });
     rows.compare(
         "server beside file, Edit and Update", 3, [&] { return served.edit(); }, [&] { return filed.edit(); });
     rows.compare(
